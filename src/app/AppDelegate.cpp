@@ -1,0 +1,23 @@
+#include "app/AppDelegate.h"
+
+#include "app/DebugSignalControls.h"
+
+namespace brimlight {
+
+QString launchLine(const QString &version)
+{
+    return QStringLiteral("Brimlight %1 launched").arg(version.isEmpty() ? QStringLiteral("dev") : version);
+}
+
+AppDelegate::AppDelegate() : m_log(m_platform.ports().log, m_flags) {}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    m_log.info(launchLine(QStringLiteral(BRIMLIGHT_VERSION)));
+    m_window.emplace([this](QWindow &window) { return m_platform.makeSurface(window); });
+    m_notch.emplace(m_platform.ports(), *m_window, m_log);
+    m_notch->show();
+    DebugSignalControls::installIfEnabled(m_flags, m_platform.ports().unixSignals, *m_notch, m_log);
+}
+
+} // namespace brimlight

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/TraceLog.h"
+#include "notch/NotchController.h"
+#include "notch/NotchWindow.h"
+#include "platform/linux/LinuxPlatform.h"
+
+#include <optional>
+
+namespace brimlight {
+
+/// Keeps the object graph alive from the launch to the exit; nothing in it is ever replaced.
+class AppDelegate
+{
+public:
+    AppDelegate();
+
+    /// The launch, in a fixed order, since later objects take references to earlier ones.
+    void applicationDidFinishLaunching();
+
+    NotchController &notch() { return *m_notch; }
+
+private:
+    LinuxPlatform m_platform;
+    DebugFlags m_flags = DebugFlags::fromEnvironment();
+    TraceLog m_log;
+    std::optional<NotchWindow> m_window;
+    std::optional<NotchController> m_notch;
+};
+
+/// The line that the launch logs; a build without a version is called "dev".
+QString launchLine(const QString &version);
+
+} // namespace brimlight

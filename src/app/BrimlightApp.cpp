@@ -1,0 +1,47 @@
+#include "app/BrimlightApp.h"
+
+#include "app/AppDelegate.h"
+#include "platform/linux/DisplayServer.h"
+#include "platform/linux/JournalLog.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include <cstdio>
+
+namespace brimlight::BrimlightApp {
+namespace {
+
+/// Warnings of the libraries belong into the log: the program prints nothing by itself. Debug output that somebody
+/// asked Qt for goes to the console, and with the debugging switch on the warnings do as well.
+void logMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    static const bool debugging = DebugFlags::fromEnvironment().enabled;
+    if (debugging || type == QtDebugMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+    if (type == QtDebugMsg)
+        return;
+    const LogLevel level = type == QtInfoMsg ? LogLevel::info : LogLevel::error;
+    JournalLog().write(level, QStringLiteral("App"), message);
+}
+
+} // namespace
+
+int run(int argc, char **argv)
+{
+    if (const auto reason = prepareDisplay()) {
+        std::fprintf(stderr, "brimlight: %s\n", qPrintable(*reason));
+        return 1;
+    }
+    qInstallMessageHandler(logMessage);
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("brimlight"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    AppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    return QGuiApplication::exec();
+}
+
+} // namespace brimlight::BrimlightApp

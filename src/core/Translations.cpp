@@ -1,0 +1,175 @@
+#include "core/Translations.h"
+
+#include <QHash>
+#include <QStringList>
+
+namespace brimlight {
+namespace {
+
+struct Row
+{
+    /// In the order of AppLanguage; the first, English, is the key.
+    std::array<const char16_t *, allLanguages.size()> texts;
+};
+
+// clang-format off
+constexpr Row rows[] = {
+    {{u"Hover Delay", u"Hover-Verzögerung", u"Délai de survol", u"Retraso de desplazamiento", u"Ritardo passante"}},
+    {{u"Notch Trigger", u"Notch-Auslöser", u"Déclencheur de l'encoche", u"Disparador de muesca", u"Attivatore notch"}},
+    {{u"Immediate (0s)", u"Sofort (0s)", u"Immédiat (0s)", u"Inmediato (0s)", u"Immediato (0s)"}},
+    {{u"Requires hovering the mouse over the notch for the selected duration before expanding. Prevents accidental triggers.",
+      u"Der Mauszeiger muss für die gewählte Dauer auf der Notch ruhen, bevor sie sich öffnet. Verhindert versehentliches Öffnen.",
+      u"La souris doit rester sur l'encoche pendant la durée choisie avant l'ouverture. Évite les déclenchements accidentels.",
+      u"El ratón debe permanecer sobre la muesca durante el tiempo elegido antes de que se abra. Evita aperturas accidentales.",
+      u"Il mouse deve restare sul notch per la durata scelta prima che si apra. Evita aperture accidentali."}},
+    {{u"Startup", u"Systemstart", u"Démarrage", u"Inicio", u"Avvio"}},
+    {{u"Launch Brimlight at login", u"Brimlight beim Login starten", u"Lancer Brimlight au démarrage", u"Iniciar Brimlight al iniciar sesión", u"Avvia Brimlight al login"}},
+    {{u"Clock & Units", u"Uhr & Einheiten", u"Horloge et unités", u"Reloj y unidades", u"Orologio e unità"}},
+    {{u"Use 24-hour clock format", u"24-Stunden-Format verwenden", u"Utiliser le format 24 heures", u"Usar formato de 24 horas", u"Usa il formato 24 ore"}},
+    {{u"Show seconds in clock", u"Sekunden in der Uhr anzeigen", u"Afficher les secondes", u"Mostrar los segundos", u"Mostra i secondi nell'orologio"}},
+    {{u"Use Celsius (°C) for temperature", u"Temperatur in Celsius (°C) anzeigen", u"Afficher la température en Celsius (°C)", u"Mostrar la temperatura en Celsius (°C)", u"Mostra la temperatura in Celsius (°C)"}},
+    {{u"Performance", u"Leistung", u"Performances", u"Rendimiento", u"Prestazioni"}},
+    {{u"Refresh Interval", u"Aktualisierungsintervall", u"Intervalle d'actualisation", u"Intervalo de actualización", u"Intervallo di aggiornamento"}},
+    {{u"Controls update speed of active widgets in the expanded notch. Slower updates conserve MacBook battery.",
+      u"Bestimmt, wie oft sich die aktiven Widgets in der geöffneten Notch aktualisieren. Langsamere Aktualisierung schont den MacBook-Akku.",
+      u"Définit la vitesse de mise à jour des widgets actifs dans l'encoche ouverte. Des mises à jour plus lentes économisent la batterie du MacBook.",
+      u"Controla la velocidad de actualización de los widgets activos en la muesca abierta. Una actualización más lenta ahorra batería del MacBook.",
+      u"Regola la velocità di aggiornamento dei widget attivi nel notch aperto. Aggiornamenti più lenti risparmiano la batteria del MacBook."}},
+    {{u"Software Update", u"Softwareupdate", u"Mise à jour logicielle", u"Actualización de software", u"Aggiornamento software"}},
+    {{u"Current Version: ", u"Aktuelle Version: ", u"Version actuelle: ", u"Versión actual: ", u"Versione corrente: "}},
+    {{u"Last checked: ", u"Zuletzt geprüft: ", u"Dernière vérification: ", u"Última comprobación: ", u"Ultimo controllo: "}},
+    {{u"Check Now", u"Jetzt suchen", u"Vérifier", u"Comprobar ahora", u"Controlla ora"}},
+    {{u"Automatically check for updates", u"Automatisch nach Updates suchen", u"Rechercher automatisch", u"Buscar actualizaciones automáticamente", u"Verifica aggiornamenti automaticamente"}},
+    {{u"Checking for updates...", u"Suche nach Updates...", u"Recherche de mises à jour...", u"Buscando actualizaciones...", u"Ricerca di aggiornamenti..."}},
+    {{u"Brimlight is up to date.", u"Brimlight ist auf dem neuesten Stand.", u"Brimlight est à jour.", u"Brimlight está actualizado.", u"Brimlight è aggiornato."}},
+    {{u"Download & Install", u"Laden & installieren", u"Télécharger et installer", u"Descargar e instalar", u"Scarica e installa"}},
+    {{u"Downloading update...", u"Update wird geladen...", u"Téléchargement en cours...", u"Descargando actualización...", u"Download dell'aggiornamento..."}},
+    {{u"Cancel", u"Abbrechen", u"Annuler", u"Cancelar", u"Annulla"}},
+    {{u"Installing update. The app will restart shortly...", u"Update wird installiert. Die App startet gleich neu...", u"Installation en cours...", u"Instalando actualización...", u"Installazione dell'aggiornamento..."}},
+    {{u"Update Error", u"Update-Fehler", u"Erreur de mise à jour", u"Error de actualización", u"Errore di aggiornamento"}},
+    {{u"Theme Presets", u"Farbschemata", u"Thèmes prédéfinis", u"Temas predefinidos", u"Temi predefiniti"}},
+    {{u"Reset to Default Preset", u"Zurücksetzen", u"Réinitialiser", u"Restablecer", u"Ripristina"}},
+    {{u"Custom Colors", u"Eigene Farben", u"Couleurs personnalisées", u"Colores personalizados", u"Colori personalizzati"}},
+    {{u"Accent Highlight", u"Akzentfarbe", u"Couleur d'accent", u"Color de acento", u"Colore d'accento"}},
+    {{u"Notch Surface", u"Notch-Oberfläche", u"Surface de l'encoche", u"Superficie de la muesca", u"Superficie del notch"}},
+    {{u"Widget Tiles Background", u"Hintergrund der Kacheln", u"Fond des widgets", u"Fondo de los widgets", u"Sfondo dei widget"}},
+    {{u"Primary Text", u"Haupttext", u"Texte principal", u"Texto principal", u"Testo principale"}},
+    {{u"Secondary Text", u"Nebentext", u"Texte secondaire", u"Texto secundario", u"Testo secondario"}},
+    {{u"Separators & Rims", u"Trennlinien & Ränder", u"Séparateurs et bords", u"Separadores y bordes", u"Separatori e bordi"}},
+    {{u"Liquid Glass", u"Flüssiges Glas", u"Verre liquide", u"Cristal líquido", u"Vetro liquido"}},
+    {{u"Transparency & Tint", u"Transparenz & Tönung", u"Transparence et teinte", u"Transparencia y tinte", u"Trasparenza e tinta"}},
+    {{u"Settings", u"Einstellungen", u"Réglages", u"Ajustes", u"Impostazioni"}},
+    {{u"Widgets", u"Widgets", u"Widgets", u"Widgets", u"Widget"}},
+    {{u"Add widget", u"Widget hinzufügen", u"Ajouter un widget", u"Añadir widget", u"Aggiungi widget"}},
+    {{u"Close", u"Schließen", u"Fermer", u"Cerrar", u"Chiudi"}},
+    {{u"Keep open", u"Angeheftet lassen", u"Garder ouvert", u"Mantener ouvert", u"Mantieni aperto"}},
+    {{u"Language", u"Sprache", u"Langue", u"Idioma", u"Lingua"}},
+    {{u"General", u"Allgemein", u"Général", u"General", u"Generali"}},
+    {{u"Appearance", u"Darstellung", u"Apparence", u"Apariencia", u"Aspetto"}},
+    {{u"Back", u"Zurück", u"Retour", u"Atrás", u"Indietro"}},
+    {{u"Skip", u"Überspringen", u"Passer", u"Omitir", u"Salta"}},
+    {{u"Next", u"Weiter", u"Suivant", u"Siguiente", u"Avanti"}},
+    {{u"Get Started", u"Loslegen", u"Démarrer", u"Empezar", u"Inizia"}},
+    {{u"Welcome to Brimlight!", u"Willkommen bei Brimlight!", u"Bienvenue sur Brimlight!", u"¡Bienvenido a Brimlight!", u"Benvenuto su Brimlight!"}},
+    {{u"Your camera notch is now a powerful, liquid-glass workspace. Hover to peek, tap to pin, and access tools instantly.",
+      u"Deine Kamera-Notch ist jetzt ein starker Arbeitsplatz aus flüssigem Glas. Zeig darauf für einen Blick, tippe zum Anheften und erreiche alle Werkzeuge sofort.",
+      u"L'encoche de votre caméra est désormais un puissant espace de travail en verre liquide. Survolez pour jeter un œil, touchez pour épingler et accédez aussitôt à vos outils.",
+      u"La muesca de tu cámara es ahora un potente espacio de trabajo de cristal líquido. Pasa el puntero para echar un vistazo, toca para fijar y accede a tus herramientas al instante.",
+      u"Il notch della fotocamera è ora un potente spazio di lavoro in vetro liquido. Passa il puntatore per sbirciare, tocca per fissare e accedi subito agli strumenti."}},
+    {{u"Customize Your Grid", u"Gestalte dein Raster", u"Personnalisez votre grille", u"Personaliza tu cuadrícula", u"Personalizza la griglia"}},
+    {{u"Tap the '+' icon to browse the gallery. Drag widgets to snap them, and right-click to resize or remove.",
+      u"Tippe auf „+“, um die Galerie zu öffnen. Ziehe Widgets an ihren Platz und ändere oder entferne sie per Rechtsklick.",
+      u"Touchez « + » pour parcourir la galerie. Faites glisser les widgets pour les placer et utilisez le clic droit pour les redimensionner ou les retirer.",
+      u"Toca «+» para ver la galería. Arrastra los widgets para colocarlos y usa el clic derecho para cambiar su tamaño o quitarlos.",
+      u"Tocca «+» per sfogliare la galleria. Trascina i widget per agganciarli e usa il clic destro per ridimensionarli o rimuoverli."}},
+    {{u"Pages & Navigation", u"Seiten & Navigation", u"Pages et navigation", u"Páginas y navegación", u"Pagine e navigazione"}},
+    {{u"Pagination controls sit right next to the title. Switch pages or add new ones to organize your tasks.",
+      u"Die Seitensteuerung steht direkt neben dem Titel. Wechsle die Seite oder füge neue hinzu, um deine Aufgaben zu ordnen.",
+      u"Les commandes de page se trouvent juste à côté du titre. Changez de page ou ajoutez-en pour organiser vos tâches.",
+      u"Los controles de página están junto al título. Cambia de página o añade otras nuevas para organizar tus tareas.",
+      u"I controlli delle pagine sono accanto al titolo. Cambia pagina o aggiungine di nuove per organizzare le tue attività."}},
+    {{u"Settings & Custom Themes", u"Einstellungen & eigene Themes", u"Réglages et thèmes personnalisés", u"Ajustes y temas personalizados", u"Impostazioni e temi personalizzati"}},
+    {{u"Customize presets, colors, and update settings inline. Everything adjusts to fit your personal workflow.",
+      u"Passe Vorlagen, Farben und Update-Einstellungen direkt hier an. Alles richtet sich nach deiner Arbeitsweise.",
+      u"Personnalisez thèmes, couleurs et mises à jour sur place. Tout s'adapte à votre façon de travailler.",
+      u"Personaliza temas, colores y actualizaciones aquí mismo. Todo se adapta a tu forma de trabajar.",
+      u"Personalizza temi, colori e aggiornamenti direttamente qui. Tutto si adatta al tuo modo di lavorare."}},
+};
+// clang-format on
+
+QString text(const char16_t *literal)
+{
+    return QString::fromUtf16(literal);
+}
+
+const QHash<QString, const Row *> &rowsByKey()
+{
+    static const QHash<QString, const Row *> table = [] {
+        QHash<QString, const Row *> hash;
+        for (const Row &row : rows)
+            hash.insert(text(row.texts.front()), &row);
+        return hash;
+    }();
+    return table;
+}
+
+} // namespace
+
+QString rawValue(AppLanguage language)
+{
+    switch (language) {
+    case AppLanguage::english:
+        return QStringLiteral("en");
+    case AppLanguage::german:
+        return QStringLiteral("de");
+    case AppLanguage::french:
+        return QStringLiteral("fr");
+    case AppLanguage::spanish:
+        return QStringLiteral("es");
+    case AppLanguage::italian:
+        return QStringLiteral("it");
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<AppLanguage> languageFromRawValue(const QString &raw)
+{
+    for (const AppLanguage language : allLanguages) {
+        if (rawValue(language) == raw)
+            return language;
+    }
+    return std::nullopt;
+}
+
+QString label(AppLanguage language)
+{
+    switch (language) {
+    case AppLanguage::english:
+        return QStringLiteral("English");
+    case AppLanguage::german:
+        return QStringLiteral("Deutsch");
+    case AppLanguage::french:
+        return QStringLiteral("Français");
+    case AppLanguage::spanish:
+        return QStringLiteral("Español");
+    case AppLanguage::italian:
+        return QStringLiteral("Italiano");
+    }
+    Q_UNREACHABLE();
+}
+
+QStringList translationKeys()
+{
+    QStringList keys;
+    for (const Row &row : rows)
+        keys.append(text(row.texts.front()));
+    return keys;
+}
+
+QString translate(const QString &key, AppLanguage language)
+{
+    const Row *row = rowsByKey().value(key);
+    return row ? text(row->texts[static_cast<size_t>(language)]) : key;
+}
+
+} // namespace brimlight

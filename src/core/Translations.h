@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+#include <optional>
+
+namespace brimlight {
+
+/// The languages of the user interface. Chosen by the user, never taken from the system's locale.
+enum class AppLanguage { english, german, french, spanish, italian };
+
+inline constexpr std::array allLanguages{AppLanguage::english, AppLanguage::german, AppLanguage::french,
+                                  AppLanguage::spanish, AppLanguage::italian};
+
+/// The stored text of a language ("en"), and back; absent for a text that names none.
+QString rawValue(AppLanguage language);
+std::optional<AppLanguage> languageFromRawValue(const QString &raw);
+/// The language's name for itself.
+QString label(AppLanguage language);
+
+/// The keys of the table in its order. A key is the English text itself.
+QStringList translationKeys();
+
+/// The text of `key` in `language`; `key` itself when the table has no such row.
+QString translate(const QString &key, AppLanguage language);
+
+} // namespace brimlight

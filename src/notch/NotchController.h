@@ -1,0 +1,126 @@
+#pragma once
+
+#include "core/AppPaths.h"
+#include "core/AppSettings.h"
+#include "core/TickCoordinator.h"
+#include "core/TraceLog.h"
+#include "grid/GridStore.h"
+#include "notch/HoverWatch.h"
+#include "notch/NotchContainer.h"
+#include "notch/NotchPanel.h"
+#include "notch/NotchViewModel.h"
+#include "notch/Placement.h"
+#include "platform/Platform.h"
+#include "platform/WorkItem.h"
+#include "theme/ThemeStore.h"
+
+#include <QObject>
+#include <QtQmlIntegration>
+
+namespace brimlight {
+
+class NotchController;
+
+/// Shows the view tree of a controller on the surface that the controller was given.
+class NotchHosting
+{
+public:
+    virtual ~NotchHosting() = default;
+    virtual OverlaySurface &surface() = 0;
+    virtual void host(NotchController &controller) = 0;
+};
+
+/// The heart of the program: owns the stores and the panel and decides when the panel opens, closes and stays
+/// pinned. The state is `isExpanded` and `isPinned` of the view model and which of the two delayed works is
+/// pending. Views never move the panel: they change the view model or call the four operations below.
+class NotchController : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("created by the process")
+    Q_PROPERTY(brimlight::NotchViewModel *viewModel READ viewModel CONSTANT)
+    Q_PROPERTY(brimlight::NotchPanel *panel READ panel CONSTANT)
+    Q_PROPERTY(brimlight::ThemeStore *theme READ theme CONSTANT)
+    Q_PROPERTY(brimlight::AppSettings *appSettings READ appSettings CONSTANT)
+    Q_PROPERTY(brimlight::TickCoordinator *ticker READ ticker CONSTANT)
+
+public:
+    /// A point this far outside of the panel still counts as inside.
+    static constexpr double hoverMargin = 6.0;
+    /// From the moment the pointer is out to the collapse.
+    static constexpr std::chrono::milliseconds collapseDelay{120};
+
+    NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log);
+
+    /// Places the panel and orders it front; called once. From now on the panel is only ever resized.
+    void show();
+    /// The only writer of `viewModel().isExpanded`. Leaves pin and settings alone.
+    void setExpanded(bool expanded);
+    void tapTogglePin();
+    /// Clamped to the pages there are.
+    void setPage(int index);
+
+    /// The callbacks of the root view; the status menu uses the same.
+    Q_INVOKABLE void openSettings();
+    Q_INVOKABLE void togglePin() { tapTogglePin(); }
+    Q_INVOKABLE void filesDropped();
+    Q_INVOKABLE void requestClose();
+    /// Opens and pins.
+    void open();
+    /// A tap on the bare surface or on the collapsed strip.
+    Q_INVOKABLE void tap();
+
+    NotchViewModel *viewModel() { return &m_viewModel; }
+    NotchPanel *panel() { return &m_panel; }
+    ThemeStore *theme() { return &m_theme; }
+    GridStore *grid() { return &m_grid; }
+    AppSettings *appSettings() { return &m_appSettings; }
+    TickCoordinator *ticker() { return &m_ticker; }
+    bool isExpandPending() const { return m_expandWork.isPending(); }
+    bool isCollapsePending() const { return m_collapseWork.isPending(); }
+
+private:
+    void wireContainer();
+    void subscribe();
+    /// Runs `work` one turn after every notification of `signal`.
+    template<typename Sender, typename Signal, typename Work>
+    void onNextTurn(Sender *sender, Signal signal, Work work)
+    {
+        connect(sender, signal, this, [this, work] { m_scheduler.post(*this, work); });
+    }
+
+    void handleEnter();
+    void handleExit();
+    void evaluateHover();
+    bool wantsToCollapse() const;
+    bool isCursorOverOurUI(double margin) const;
+    void leftReleased();
+
+    void reposition();
+    Rect frameFor(bool expanded, const Screen &screen) const;
+    void resizeIfExpanded();
+    int pageCount() const;
+    void clampCurrentPage();
+
+    Scheduler &m_scheduler;
+    Screens &m_screens;
+    Pointer &m_pointer;
+    const TraceLog &m_log;
+
+    // In the order in which they come into being: later ones take the state of earlier ones.
+    NotchViewModel m_viewModel;
+    ThemeStore m_theme;
+    GridStore m_grid;
+    TickCoordinator m_ticker;
+    AppSettings m_appSettings;
+    NotchPanel m_panel;
+    NotchContainer m_container;
+    HoverWatch m_hoverWatch;
+
+    std::optional<Screen> m_currentScreen;
+    WorkItem m_collapseWork;
+    WorkItem m_expandWork;
+    std::unique_ptr<EventMonitor> m_leftRelease;
+};
+
+} // namespace brimlight

@@ -1,0 +1,165 @@
+#include "notch/NotchPanel.h"
+
+#include "notch/NotchShape.h"
+#include "notch/Placement.h"
+#include "theme/Spring.h"
+
+#include <algorithm>
+
+namespace brimlight {
+namespace {
+
+constexpr Spring frameSpring{std::chrono::duration<double>(0.34), 0.85};
+
+double mix(double from, double to, double progress)
+{
+    return from + (to - from) * progress;
+}
+
+Rect mix(const Rect &from, const Rect &to, double progress)
+{
+    const Rect mixed{mix(from.x, to.x, progress), mix(from.y, to.y, progress),
+                     std::max(0.0, mix(from.width, to.width, progress)),
+                     std::max(0.0, mix(from.height, to.height, progress))};
+    // The top edge stays on the screen's edge to the last bit: rounding must not open a seam.
+    return from.maxY() == to.maxY() ? Rect{mixed.x, to.maxY() - mixed.height, mixed.width, mixed.height} : mixed;
+}
+
+/// The largest area that the panel can need while it is open, standing where `frame` stands.
+Rect openExtent(const Rect &frame)
+{
+    const double width = std::max(frame.width, placement::minimumExpandedWidth) + 2 * NotchPanel::overhang;
+    const double height = std::max(frame.height, placement::maximumGridHeight) + NotchPanel::overhang;
+    return {frame.midX() - width / 2, frame.maxY() - height, width, height};
+}
+
+} // namespace
+
+NotchPanel::NotchPanel(OverlaySurface &surface, QObject *parent) : QObject(parent), m_surface(surface)
+{
+    m_animation.setStartValue(0.0);
+    m_animation.setEndValue(1.0);
+    m_animation.setDuration(static_cast<int>(frameSpring.settlingTime().count()));
+    connect(&m_animation, &QVariantAnimation::valueChanged, this, [this] {
+        const std::chrono::milliseconds elapsed(m_animation.currentTime());
+        step(mix(m_from, m_frame, frameSpring.value(elapsed)));
+    });
+    connect(&m_animation, &QVariantAnimation::finished, this, [this] { settle(); });
+}
+
+void NotchPanel::orderFront()
+{
+    m_surface.orderFront();
+}
+
+void NotchPanel::setFrame(const Rect &frame, bool animate)
+{
+    const bool jump = !animate || frame.maxY() != m_frame.maxY() || frame.midX() != m_frame.midX();
+    m_frame = frame;
+    m_animation.stop();
+    if (!m_contentVisible)
+        m_surface.setSensor(m_frame);
+    if (jump) {
+        settle();
+        return;
+    }
+    m_from = m_displayed;
+    if (!m_isDrawn) {
+        setExtent(openExtent(m_frame));
+        setDrawn(true);
+    }
+    m_animation.start();
+}
+
+QRectF NotchPanel::pane() const
+{
+    return {m_displayed.x - m_extent.x, m_extent.maxY() - m_displayed.maxY(), m_displayed.width,
+            m_displayed.height};
+}
+
+void NotchPanel::finishAnimation()
+{
+    if (isAnimating())
+        m_animation.setCurrentTime(m_animation.duration());
+}
+
+void NotchPanel::setPopoverFrame(QObject &owner, const Rect &frame)
+{
+    if (!m_popovers.contains(&owner))
+        connect(&owner, &QObject::destroyed, this, [this, key = &owner] { removePopover(*key); });
+    m_popovers.insert(&owner, frame);
+    updateOutlines();
+}
+
+void NotchPanel::removePopover(QObject &owner)
+{
+    disconnect(&owner, &QObject::destroyed, this, nullptr);
+    if (m_popovers.remove(&owner) > 0)
+        updateOutlines();
+}
+
+bool NotchPanel::contains(Point point, double margin) const
+{
+    return m_frame.outset(margin).contains(point) ||
+           std::any_of(m_popovers.begin(), m_popovers.end(),
+                       [&](const Rect &popover) { return popover.outset(margin).contains(point); });
+}
+
+QRectF NotchPanel::toScreen(const QRectF &local) const
+{
+    return {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(), local.width(), local.height()};
+}
+
+void NotchPanel::step(const Rect &displayed)
+{
+    m_displayed = displayed;
+    updateOutlines();
+    Q_EMIT paneChanged();
+}
+
+void NotchPanel::settle()
+{
+    if (m_contentVisible) {
+        setExtent(openExtent(m_frame));
+        setDrawn(true);
+        step(m_frame);
+    } else {
+        setDrawn(false);
+        step(m_frame);
+        setExtent(m_frame);
+    }
+}
+
+void NotchPanel::setExtent(const Rect &extent)
+{
+    if (extent == m_extent)
+        return;
+    m_extent = extent;
+    m_surface.setExtent(extent);
+    Q_EMIT paneChanged();
+}
+
+void NotchPanel::setDrawn(bool drawn)
+{
+    if (drawn == m_isDrawn)
+        return;
+    m_isDrawn = drawn;
+    updateOutlines();
+    Q_EMIT isDrawnChanged();
+}
+
+void NotchPanel::updateOutlines()
+{
+    if (!m_isDrawn) {
+        m_surface.setOutlines({});
+        return;
+    }
+    const double radius =
+        NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius({0, 0, m_displayed.width, m_displayed.height});
+    std::vector<SurfaceOutline> outlines{{.frame = m_displayed, .bottomRadius = radius}};
+    for (const Rect &popover : m_popovers)
+        outlines.push_back({.frame = popover});
+    m_surface.setOutlines(outlines);
+}
+
+} // namespace brimlight

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/OverlaySurface.h"
+
+#include <QHash>
+#include <QObject>
+#include <QRectF>
+#include <QVariantAnimation>
+#include <QtQmlIntegration>
+
+namespace brimlight {
+
+/// The panel on screen. Its `frame` is logical: it jumps to each new value, while `pane`, what is drawn, follows by
+/// animation inside a surface that is grown before an expansion and shrunk after a collapse, never in between.
+class NotchPanel : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the controller")
+    Q_PROPERTY(QRectF pane READ pane NOTIFY paneChanged)
+    Q_PROPERTY(bool isDrawn READ isDrawn NOTIFY isDrawnChanged)
+
+public:
+    /// How far popovers and shadows can reach beyond the largest frame, in points.
+    static constexpr double overhang = 120;
+
+    explicit NotchPanel(OverlaySurface &surface, QObject *parent = nullptr);
+
+    void orderFront();
+
+    const Rect &frame() const { return m_frame; }
+    /// Moves the panel at once; nothing is drawn while `content` is false and the panel is at rest.
+    void setFrame(const Rect &frame, bool animate);
+    /// Whether the panel shows anything. Goes before the frame that belongs to it.
+    void setContentVisible(bool visible) { m_contentVisible = visible; }
+
+    /// What is drawn now, in the surface's own coordinates: origin at its top left, y downwards.
+    QRectF pane() const;
+    /// False while collapsed and at rest.
+    bool isDrawn() const { return m_isDrawn; }
+    /// Jumps to the end of a running animation.
+    void finishAnimation();
+    bool isAnimating() const { return m_animation.state() == QAbstractAnimation::Running; }
+
+    /// A popover or menu that belongs to the panel even where it stands outside of it. An owner that is destroyed
+    /// takes its popover with it.
+    void setPopoverFrame(QObject &owner, const Rect &frame);
+    void removePopover(QObject &owner);
+    /// True when the point lies within `margin` of the panel or of one of its popovers.
+    bool contains(Point point, double margin) const;
+
+    /// From the surface's coordinates to logical ones.
+    Q_INVOKABLE QRectF toScreen(const QRectF &local) const;
+
+Q_SIGNALS:
+    void paneChanged();
+    void isDrawnChanged();
+
+private:
+    void step(const Rect &displayed);
+    void settle();
+    void setExtent(const Rect &extent);
+    void setDrawn(bool drawn);
+    void updateOutlines();
+
+    OverlaySurface &m_surface;
+    Rect m_frame{0, 0, 200, 32};
+    Rect m_displayed = m_frame;
+    Rect m_extent = m_frame;
+    Rect m_from = m_frame;
+    QVariantAnimation m_animation;
+    bool m_contentVisible = false;
+    bool m_isDrawn = false;
+    QHash<QObject *, Rect> m_popovers;
+};
+
+} // namespace brimlight

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "notch/NotchController.h"
+
+#include <QQmlEngine>
+#include <QQuickView>
+
+#include <memory>
+
+namespace brimlight {
+
+/// Builds the surface for a window that has not been shown yet.
+using SurfaceFactory = std::function<std::unique_ptr<OverlaySurface>(QWindow &)>;
+
+/// The window that carries the view tree.
+class NotchWindow : public QObject, public NotchHosting
+{
+public:
+    explicit NotchWindow(const SurfaceFactory &makeSurface);
+    ~NotchWindow() override;
+
+    OverlaySurface &surface() override { return *m_surface; }
+    void host(NotchController &controller) override;
+    QQuickView &view() { return m_view; }
+
+private:
+    QQmlEngine m_engine;
+    QQuickView m_view;
+    std::unique_ptr<OverlaySurface> m_surface;
+};
+
+} // namespace brimlight

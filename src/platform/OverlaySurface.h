@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/Geometry.h"
+
+#include <functional>
+#include <vector>
+
+namespace brimlight {
+
+/// One scroll step over the surface.
+struct ScrollEvent
+{
+    /// Touchpad gestures have a phase; a mouse wheel never has one.
+    enum class Phase { none, began, changed, ended, cancelled };
+
+    Phase phase = Phase::none;
+    /// Points, positive when the content moves right or down.
+    double deltaX = 0;
+    double deltaY = 0;
+};
+
+/// An area with square upper and rounded lower corners, in logical coordinates.
+struct SurfaceOutline
+{
+    Rect frame;
+    double bottomRadius = 0;
+    /// False for what is seen but lets clicks through.
+    bool takesPointer = true;
+
+    bool operator==(const SurfaceOutline &) const = default;
+};
+
+/// The one window of the program: borderless, above everything, on every workspace, never focused by itself.
+///
+/// Three things describe it. `extent` is what can be drawn on; it is set only at the edges of a state, since a
+/// resize costs a new buffer. `outlines` are what is drawn within it; the pointer reaches whatever lies below
+/// everywhere else. `sensor` is a strip that reports the pointer even while nothing is drawn.
+class OverlaySurface
+{
+public:
+    struct Events
+    {
+        std::function<void()> entered;
+        std::function<void()> exited;
+        /// A click on the sensor while nothing is drawn there.
+        std::function<void()> tapped;
+        /// Returns true when the event is used up and must not reach the content.
+        std::function<bool(const ScrollEvent &)> scrolled;
+    };
+
+    virtual ~OverlaySurface() = default;
+
+    virtual void setEvents(Events events) = 0;
+    virtual void orderFront() = 0;
+    virtual void setExtent(const Rect &extent) = 0;
+    virtual void setOutlines(const std::vector<SurfaceOutline> &outlines) = 0;
+    virtual void setSensor(const Rect &strip) = 0;
+    /// True while a text field of the content wants keys; false gives the keyboard back to where it was.
+    virtual void setWantsKeyboard(bool wants) = 0;
+};
+
+} // namespace brimlight

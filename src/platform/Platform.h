@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Folders.h"
+#include "platform/Log.h"
+#include "platform/Pointer.h"
+#include "platform/Scheduler.h"
+#include "platform/Screens.h"
+#include "platform/UnixSignals.h"
+#include "platform/UserDefaults.h"
+
+namespace brimlight {
+
+/// The ports that live as long as the process, borrowed. Whoever builds the graph hands parts of it on.
+struct Platform
+{
+    Scheduler &scheduler;
+    UserDefaults &defaults;
+    Folders &folders;
+    Log &log;
+    Screens &screens;
+    Pointer &pointer;
+    UnixSignals &unixSignals;
+};
+
+} // namespace brimlight

@@ -1,0 +1,85 @@
+#include "platform/linux/LinuxPlatform.h"
+
+#include "platform/linux/JournalLog.h"
+#include "platform/linux/JsonUserDefaults.h"
+#include "platform/linux/PipeUnixSignals.h"
+#include "platform/linux/QtScheduler.h"
+#include "platform/linux/QtScreens.h"
+#include "platform/linux/X11Connection.h"
+#include "platform/linux/X11OverlaySurface.h"
+#include "platform/linux/X11Pointer.h"
+#include "platform/linux/XdgFolders.h"
+
+#include <QWindow>
+
+namespace brimlight {
+namespace {
+
+/// A surface without a display: the window stands where it is put and nothing else happens. For offscreen runs.
+class BareSurface : public OverlaySurface
+{
+public:
+    explicit BareSurface(QWindow &window) : m_window(window) {}
+
+    void setEvents(Events) override {}
+    void orderFront() override { m_window.show(); }
+    void setExtent(const Rect &extent) override
+    {
+        m_window.resize(QSizeF(extent.width, extent.height).toSize());
+    }
+    void setOutlines(const std::vector<SurfaceOutline> &) override {}
+    void setSensor(const Rect &) override {}
+    void setWantsKeyboard(bool) override {}
+
+private:
+    QWindow &m_window;
+};
+
+} // namespace
+
+struct LinuxPlatform::Backends
+{
+    std::unique_ptr<X11Connection> x11 = X11Connection::ofApplication();
+    QtScheduler scheduler;
+    XdgFolders folders;
+    JsonUserDefaults defaults{folders.userDefaultsFile()};
+    JournalLog log;
+    QtScreens screens{thisMachinesPanel()};
+    X11Pointer pointer{x11.get()};
+    PipeUnixSignals unixSignals;
+    std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
+
+    std::unique_ptr<X11Connection::Listening> watchWorkspace()
+    {
+        return std::make_unique<X11Connection::Listening>(
+            *x11, [this, root = x11->root(), current = x11->atom("_NET_CURRENT_DESKTOP")](
+                      const xcb_generic_event_t &event) {
+                const auto &property = reinterpret_cast<const xcb_property_notify_event_t &>(event);
+                if ((event.response_type & ~0x80) == XCB_PROPERTY_NOTIFY && property.window == root &&
+                    property.atom == current)
+                    screens.workspaceChanged();
+                return false;
+            });
+    }
+};
+
+LinuxPlatform::LinuxPlatform() : m_backends(std::make_unique<Backends>()) {}
+
+LinuxPlatform::~LinuxPlatform() = default;
+
+Platform LinuxPlatform::ports()
+{
+    Backends &b = *m_backends;
+    return {b.scheduler, b.defaults, b.folders, b.log, b.screens, b.pointer, b.unixSignals};
+}
+
+std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)
+{
+    Backends &b = *m_backends;
+    if (!b.x11)
+        return std::make_unique<BareSurface>(window);
+    return std::make_unique<X11OverlaySurface>(window, *b.x11, b.scheduler,
+                                               [&b](bool over) { b.pointer.setOverSurface(over); });
+}
+
+} // namespace brimlight

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/OverlaySurface.h"
+#include "platform/Platform.h"
+
+#include <memory>
+
+class QWindow;
+
+namespace brimlight {
+
+/// The real backends of all ports. Built once, after the application object.
+class LinuxPlatform
+{
+public:
+    LinuxPlatform();
+    ~LinuxPlatform();
+
+    Platform ports();
+    /// The overlay on this window, which must not have been shown.
+    std::unique_ptr<OverlaySurface> makeSurface(QWindow &window);
+
+private:
+    struct Backends;
+    std::unique_ptr<Backends> m_backends;
+};
+
+} // namespace brimlight

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Scheduler.h"
+
+namespace brimlight {
+
+/// The Qt event loop of the thread it is used on.
+class QtScheduler : public Scheduler
+{
+public:
+    QDateTime now() const override;
+    void post(QObject &context, std::function<void()> body) override;
+    std::unique_ptr<Scheduled> after(std::chrono::milliseconds delay, std::function<void()> body) override;
+    std::unique_ptr<Scheduled> every(std::chrono::milliseconds period, std::chrono::milliseconds tolerance,
+                                     std::function<void()> body) override;
+};
+
+} // namespace brimlight

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/OverlaySurface.h"
+#include "platform/linux/ScrollGesture.h"
+#include "platform/linux/TouchpadScroll.h"
+#include "platform/linux/X11Connection.h"
+#include "platform/linux/X11KeyboardFocus.h"
+#include "platform/linux/X11Sensor.h"
+#include "platform/linux/X11Stacking.h"
+
+#include <QObject>
+#include <QWindow>
+
+#include <memory>
+
+namespace brimlight {
+
+/// The rows of pixels that an outline covers, within a window whose frame is `extent`.
+std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent, double devicePixelRatio);
+
+/// A window outside of the window manager's care, with a sensor beneath it.
+class X11OverlaySurface : public QObject, public OverlaySurface
+{
+public:
+    /// Prepares `window`, which must not have been shown. `overChanged` hears when the pointer comes and goes.
+    X11OverlaySurface(QWindow &window, X11Connection &connection, Scheduler &scheduler,
+                      std::function<void(bool)> overChanged);
+
+    void setEvents(Events events) override { m_events = std::move(events); }
+    void orderFront() override;
+    void setExtent(const Rect &extent) override;
+    void setOutlines(const std::vector<SurfaceOutline> &outlines) override;
+    void setSensor(const Rect &strip) override;
+    void setWantsKeyboard(bool wants) override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool handle(const xcb_generic_event_t &event);
+    bool handlePointer(const xcb_input_button_press_event_t &event);
+    bool isOurs(xcb_window_t window) const { return window == m_sensor.id() || window == m_window.winId(); }
+    void pointerCame();
+    void pointerWent();
+    void raise();
+    void applyShape();
+
+    QWindow &m_window;
+    X11Connection &m_connection;
+    std::function<void(bool)> m_overChanged;
+    Events m_events;
+    X11Sensor m_sensor;
+    X11KeyboardFocus m_keyboard;
+    X11Stacking m_stacking;
+    TouchpadScroll m_touchpad;
+    ScrollGesture m_gesture;
+    Rect m_extent;
+    std::vector<SurfaceOutline> m_outlines;
+    bool m_over = false;
+    bool m_pressed = false;
+    X11Connection::Listening m_listening;
+};
+
+} // namespace brimlight

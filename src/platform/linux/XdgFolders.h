@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Folders.h"
+
+namespace brimlight {
+
+/// The folders of the XDG base directories.
+class XdgFolders : public Folders
+{
+public:
+    std::optional<QString> applicationSupport() const override;
+    QString temporary() const override;
+
+    /// The file of the user defaults, in the folder "Brimlight" of the configuration home.
+    QString userDefaultsFile() const;
+};
+
+} // namespace brimlight

@@ -1,0 +1,7 @@
+#include "theme/ThemeStore.h"
+
+namespace brimlight {
+
+ThemeStore::ThemeStore(QObject *parent) : QObject(parent) {}
+
+} // namespace brimlight
