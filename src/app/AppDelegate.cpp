@@ -9,7 +9,10 @@ QString launchLine(const QString &version)
     return QStringLiteral("Brimlight %1 launched").arg(version.isEmpty() ? QStringLiteral("dev") : version);
 }
 
-AppDelegate::AppDelegate() : m_log(m_platform.ports().log, m_flags) {}
+AppDelegate::AppDelegate()
+    : m_log(m_platform.ports().log, m_flags)
+{
+}
 
 void AppDelegate::applicationDidFinishLaunching()
 {

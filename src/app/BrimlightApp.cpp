@@ -12,8 +12,8 @@
 namespace brimlight::BrimlightApp {
 namespace {
 
-/// Warnings of the libraries belong into the log: the program prints nothing by itself. Debug output that somebody
-/// asked Qt for goes to the console, and with the debugging switch on the warnings do as well.
+/// Warnings of the libraries belong into the log: the program prints nothing by itself. Debug output that
+/// somebody asked Qt for goes to the console, and with the debugging switch on the warnings do as well.
 void logMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     static const bool debugging = DebugFlags::fromEnvironment().enabled;

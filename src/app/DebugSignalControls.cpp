@@ -17,7 +17,8 @@ void installIfEnabled(const DebugFlags &flags, UnixSignals &unixSignals, NotchCo
         return;
     unixSignals.install(SIGUSR1, [&controller] { controller.setExpanded(true); });
     unixSignals.install(SIGUSR2, [&controller] { controller.setExpanded(false); });
-    log.trace(QStringLiteral("Debug signal controls ready (pid=%1, SIGUSR1=expand, SIGUSR2=collapse)").arg(getpid()));
+    log.trace(QStringLiteral("Debug signal controls ready (pid=%1, SIGUSR1=expand, SIGUSR2=collapse)")
+                  .arg(getpid()));
 }
 
 } // namespace brimlight::DebugSignalControls

@@ -91,7 +91,8 @@ AppSettings::AppSettings(UserDefaults &defaults, QObject *parent)
     , m_language(languageFromRawValue(defaults.read<QString>(languageKey()).value_or(QString()))
                      .value_or(AppLanguage::english))
     , m_hoverDelay(defaults.read<double>(hoverDelayKey()).value_or(0.5))
-{}
+{
+}
 
 void AppSettings::setClock24h(bool value)
 {

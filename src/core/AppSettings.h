@@ -18,7 +18,7 @@ class UserDefaults;
 enum class RefreshRate { live, balanced, efficient, saver };
 
 inline constexpr std::array allRefreshRates{RefreshRate::live, RefreshRate::balanced, RefreshRate::efficient,
-                                     RefreshRate::saver};
+                                            RefreshRate::saver};
 
 /// The tick period of a rate.
 constexpr std::chrono::milliseconds interval(RefreshRate rate)
@@ -34,8 +34,9 @@ std::optional<RefreshRate> refreshRateFromRawValue(const QString &raw);
 /// What the settings panel calls it.
 QString label(RefreshRate rate);
 
-/// The user's global preferences. Each is read once, at creation, and written at every assignment; an assignment
-/// notifies every time, equal value or not. A stored value of the wrong type costs that one setting.
+/// The user's global preferences. Each is read once, at creation, and written at every assignment; an
+/// assignment notifies every time, equal value or not. A stored value of the wrong type costs that one
+/// setting.
 class AppSettings : public QObject
 {
     Q_OBJECT
@@ -64,9 +65,10 @@ public:
     void setHoverDelay(double value);
 
     /// The text in the user's language; the key itself, which is English, when there is no translation.
-    Q_INVOKABLE QString localized(const QString &key) const;
+    QString localized(const QString &key) const;
     /// "HH:mm" or, on a 12-hour clock, "h:mm". Without a zone, the current one.
-    QString hourMinute(const QDateTime &date, const std::optional<QTimeZone> &timeZone = std::nullopt) const;
+    Q_INVOKABLE QString hourMinute(const QDateTime &date) const { return hourMinute(date, std::nullopt); }
+    QString hourMinute(const QDateTime &date, const std::optional<QTimeZone> &timeZone) const;
     /// The locale's marker for the half of the day on a 12-hour clock, otherwise empty.
     QString meridiem(const QDateTime &date, const std::optional<QTimeZone> &timeZone = std::nullopt) const;
     /// A finite temperature in the user's unit, rounded, with the degree sign and no unit letter.

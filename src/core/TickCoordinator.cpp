@@ -5,8 +5,12 @@
 namespace brimlight {
 
 TickCoordinator::TickCoordinator(Scheduler &scheduler, const TraceLog &log, QObject *parent)
-    : QObject(parent), m_scheduler(scheduler), m_log(log), m_now(scheduler.now())
-{}
+    : QObject(parent)
+    , m_scheduler(scheduler)
+    , m_log(log)
+    , m_now(scheduler.now())
+{
+}
 
 void TickCoordinator::setActive(bool active)
 {

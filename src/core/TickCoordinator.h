@@ -10,8 +10,8 @@ namespace brimlight {
 
 class TraceLog;
 
-/// The one shared clock of the views: `now` advances at the chosen rate while the panel is open and stands still
-/// while it is closed.
+/// The one shared clock of the views: `now` advances at the chosen rate while the panel is open and stands
+/// still while it is closed.
 class TickCoordinator : public QObject
 {
     Q_OBJECT

@@ -16,8 +16,11 @@ class TraceLog
 public:
     /// `console` is where trace lines are repeated while the debugging switch is on; not owned.
     TraceLog(Log &log, DebugFlags flags, std::FILE *console = stderr)
-        : m_log(log), m_flags(flags), m_console(console)
-    {}
+        : m_log(log)
+        , m_flags(flags)
+        , m_console(console)
+    {
+    }
 
     /// A trace line: to the log at info level and, with the debugging switch on, to the console.
     void trace(const QString &line) const;

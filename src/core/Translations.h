@@ -11,7 +11,7 @@ namespace brimlight {
 enum class AppLanguage { english, german, french, spanish, italian };
 
 inline constexpr std::array allLanguages{AppLanguage::english, AppLanguage::german, AppLanguage::french,
-                                  AppLanguage::spanish, AppLanguage::italian};
+                                         AppLanguage::spanish, AppLanguage::italian};
 
 /// The stored text of a language ("en"), and back; absent for a text that names none.
 QString rawValue(AppLanguage language);

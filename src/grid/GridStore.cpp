@@ -4,7 +4,10 @@
 
 namespace brimlight {
 
-GridStore::GridStore(QObject *parent) : QObject(parent) {}
+GridStore::GridStore(QObject *parent)
+    : QObject(parent)
+{
+}
 
 void GridStore::setLayout(GridLayout layout)
 {

@@ -3,8 +3,11 @@
 namespace brimlight {
 
 HoverWatch::HoverWatch(Pointer &pointer, Scheduler &scheduler, std::function<void()> evaluate)
-    : m_pointer(pointer), m_scheduler(scheduler), m_evaluate(std::move(evaluate))
-{}
+    : m_pointer(pointer)
+    , m_scheduler(scheduler)
+    , m_evaluate(std::move(evaluate))
+{
+}
 
 void HoverWatch::start()
 {
@@ -26,7 +29,8 @@ void HoverWatch::stop()
 
 void HoverWatch::request()
 {
-    // A fast mouse sends a thousand events a second; one evaluation per turn sees the last position of them all.
+    // A fast mouse sends a thousand events a second; one evaluation per turn sees the last position of them
+    // all.
     if (m_requested)
         return;
     m_requested = true;

@@ -9,8 +9,9 @@
 
 namespace brimlight {
 
-/// Asks for a hover evaluation whenever the pointer moves and, as a safety net, at every poll: a screen change or a
-/// switch of workspace takes the pointer away without an event. Evaluations run in a turn of their own.
+/// Asks for a hover evaluation whenever the pointer moves and, as a safety net, at every poll: a screen
+/// change or a switch of workspace takes the pointer away without an event. Evaluations run in a turn of
+/// their own.
 class HoverWatch : public QObject
 {
 public:

@@ -41,7 +41,7 @@ Item {
             color: root.colors.accent
         }
         Text {
-            text: root.controller.appSettings.localized("Brimlight")
+            text: qsTr("Brimlight")
             color: root.colors.textPrimary
             font.pixelSize: 12
             font.bold: true
@@ -49,7 +49,7 @@ Item {
     }
     Text {
         anchors.centerIn: parent
-        text: Qt.formatTime(root.controller.ticker.now, "HH:mm:ss")
+        text: root.controller.appSettings.hourMinute(root.controller.ticker.now)
         color: root.colors.textPrimary
         font.pixelSize: 56
         font.weight: Font.Light

@@ -39,13 +39,14 @@ void NotchController::wireContainer()
                 swipe();
         };
     };
-    m_container.setCallbacks({.onEnter = [this] { handleEnter(); },
-                              .onExit = [this] { handleExit(); },
-                              .onSwipeLeft = unlessOptionsOpen([this] { setPage(m_viewModel.currentPage() + 1); }),
-                              .onSwipeRight = unlessOptionsOpen([this] { setPage(m_viewModel.currentPage() - 1); }),
-                              .onSwipeDown = unlessOptionsOpen([this] { open(); }),
-                              .onSwipeUp = unlessOptionsOpen([this] { requestClose(); }),
-                              .onTap = [this] { tap(); }});
+    m_container.setCallbacks(
+        {.onEnter = [this] { handleEnter(); },
+         .onExit = [this] { handleExit(); },
+         .onSwipeLeft = unlessOptionsOpen([this] { setPage(m_viewModel.currentPage() + 1); }),
+         .onSwipeRight = unlessOptionsOpen([this] { setPage(m_viewModel.currentPage() - 1); }),
+         .onSwipeDown = unlessOptionsOpen([this] { open(); }),
+         .onSwipeUp = unlessOptionsOpen([this] { requestClose(); }),
+         .onTap = [this] { tap(); }});
 }
 
 void NotchController::subscribe()
@@ -79,7 +80,8 @@ void NotchController::setExpanded(bool expanded)
     m_expandWork.cancel();
     if (expanded == m_viewModel.isExpanded())
         return;
-    const std::optional<Screen> screen = m_currentScreen ? m_currentScreen : placement::chooseScreen(m_screens);
+    const std::optional<Screen> screen =
+        m_currentScreen ? m_currentScreen : placement::chooseScreen(m_screens);
     if (!screen) {
         m_viewModel.setExpanded(expanded);
         return;
@@ -163,7 +165,8 @@ void NotchController::handleEnter()
     }
     // A stored delay can be any number; beyond a day it is as good as never.
     constexpr double day = 86400;
-    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(std::min(delay, day)));
+    const auto wait =
+        std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(std::min(delay, day)));
     m_expandWork.schedule(m_scheduler, wait, [this] {
         if (!m_viewModel.isExpanded() && isCursorOverOurUI(hoverMargin))
             setExpanded(true);

@@ -15,7 +15,8 @@ struct NotchGeometry
 
     bool operator==(const NotchGeometry &) const = default;
 
-    /// As wide as the camera housing of the screen and never lower than 32; 200 by 32 without a housing or screen.
+    /// As wide as the camera housing of the screen and never lower than 32; 200 by 32 without a housing or
+    /// screen.
     static NotchGeometry forScreen(const std::optional<Screen> &screen);
 };
 

@@ -6,7 +6,8 @@
 
 namespace brimlight {
 
-NotchPane::NotchPane(QQuickItem *parent) : QQuickPaintedItem(parent)
+NotchPane::NotchPane(QQuickItem *parent)
+    : QQuickPaintedItem(parent)
 {
     connect(this, &NotchPane::changed, this, [this] { update(); });
 }

@@ -22,7 +22,8 @@ Rect mix(const Rect &from, const Rect &to, double progress)
                      std::max(0.0, mix(from.width, to.width, progress)),
                      std::max(0.0, mix(from.height, to.height, progress))};
     // The top edge stays on the screen's edge to the last bit: rounding must not open a seam.
-    return from.maxY() == to.maxY() ? Rect{mixed.x, to.maxY() - mixed.height, mixed.width, mixed.height} : mixed;
+    return from.maxY() == to.maxY() ? Rect{mixed.x, to.maxY() - mixed.height, mixed.width, mixed.height}
+                                    : mixed;
 }
 
 /// The largest area that the panel can need while it is open, standing where `frame` stands.
@@ -35,7 +36,9 @@ Rect openExtent(const Rect &frame)
 
 } // namespace
 
-NotchPanel::NotchPanel(OverlaySurface &surface, QObject *parent) : QObject(parent), m_surface(surface)
+NotchPanel::NotchPanel(OverlaySurface &surface, QObject *parent)
+    : QObject(parent)
+    , m_surface(surface)
 {
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
@@ -79,8 +82,13 @@ QRectF NotchPanel::pane() const
 
 void NotchPanel::finishAnimation()
 {
+    advanceAnimation(std::chrono::milliseconds(m_animation.duration()));
+}
+
+void NotchPanel::advanceAnimation(std::chrono::milliseconds elapsed)
+{
     if (isAnimating())
-        m_animation.setCurrentTime(m_animation.duration());
+        m_animation.setCurrentTime(static_cast<int>(elapsed.count()));
 }
 
 void NotchPanel::setPopoverFrame(QObject &owner, const Rect &frame)
@@ -107,7 +115,8 @@ bool NotchPanel::contains(Point point, double margin) const
 
 QRectF NotchPanel::toScreen(const QRectF &local) const
 {
-    return {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(), local.width(), local.height()};
+    return {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(), local.width(),
+            local.height()};
 }
 
 void NotchPanel::step(const Rect &displayed)
@@ -154,8 +163,8 @@ void NotchPanel::updateOutlines()
         m_surface.setOutlines({});
         return;
     }
-    const double radius =
-        NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius({0, 0, m_displayed.width, m_displayed.height});
+    const double radius = NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius(
+        {0, 0, m_displayed.width, m_displayed.height});
     std::vector<SurfaceOutline> outlines{{.frame = m_displayed, .bottomRadius = radius}};
     for (const Rect &popover : m_popovers)
         outlines.push_back({.frame = popover});

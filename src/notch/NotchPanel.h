@@ -8,10 +8,13 @@
 #include <QVariantAnimation>
 #include <QtQmlIntegration>
 
+#include <chrono>
+
 namespace brimlight {
 
-/// The panel on screen. Its `frame` is logical: it jumps to each new value, while `pane`, what is drawn, follows by
-/// animation inside a surface that is grown before an expansion and shrunk after a collapse, never in between.
+/// The panel on screen. Its `frame` is logical: it jumps to each new value, while `pane`, what is drawn,
+/// follows by animation inside a surface that is grown before an expansion and shrunk after a collapse, never
+/// in between.
 class NotchPanel : public QObject
 {
     Q_OBJECT
@@ -40,10 +43,12 @@ public:
     bool isDrawn() const { return m_isDrawn; }
     /// Jumps to the end of a running animation.
     void finishAnimation();
+    /// Jumps to `elapsed` in a running animation, which goes on from there.
+    void advanceAnimation(std::chrono::milliseconds elapsed);
     bool isAnimating() const { return m_animation.state() == QAbstractAnimation::Running; }
 
-    /// A popover or menu that belongs to the panel even where it stands outside of it. An owner that is destroyed
-    /// takes its popover with it.
+    /// A popover or menu that belongs to the panel even where it stands outside of it. An owner that is
+    /// destroyed takes its popover with it.
     void setPopoverFrame(QObject &owner, const Rect &frame);
     void removePopover(QObject &owner);
     /// True when the point lies within `margin` of the panel or of one of its popovers.

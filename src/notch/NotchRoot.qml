@@ -46,7 +46,7 @@ Item {
             }
 
             sourceComponent: NotchContent {
-                controller: root.controller
+                controller: root.controller // qmllint disable unqualified
             }
         }
     }

@@ -5,7 +5,8 @@
 
 namespace brimlight {
 
-/// The outline of the panel: square upper corners, which flow out of the screen's edge, and rounded lower ones.
+/// The outline of the panel: square upper corners, which flow out of the screen's edge, and rounded lower
+/// ones.
 struct NotchShape
 {
     /// The largest corner radius of the panel's own outline, in points.

@@ -16,7 +16,8 @@ NotchViewModel::NotchViewModel(UserDefaults &defaults, QObject *parent)
     : QObject(parent)
     , m_defaults(defaults)
     , m_onboardingCompleted(defaults.read<bool>(onboardingKey()).value_or(false))
-{}
+{
+}
 
 void NotchViewModel::setExpanded(bool value)
 {

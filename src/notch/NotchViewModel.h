@@ -13,8 +13,8 @@ namespace brimlight {
 
 class UserDefaults;
 
-/// The one description of the state of the notch surface. It holds values and no rules: who may write each of them
-/// stands beside it. Every assignment notifies, equal value or not.
+/// The one description of the state of the notch surface. It holds values and no rules: who may write each of
+/// them stands beside it. Every assignment notifies, equal value or not.
 class NotchViewModel : public QObject
 {
     Q_OBJECT

@@ -13,8 +13,8 @@ namespace {
 
 using Registration = void (*)();
 [[gnu::used]] const Registration registrations[] = {
-    &qml_register_types_Brimlight_Core, &qml_register_types_Brimlight_Theme, &qml_register_types_Brimlight_Grid,
-    &qml_register_types_Brimlight_Notch};
+    &qml_register_types_Brimlight_Core, &qml_register_types_Brimlight_Theme,
+    &qml_register_types_Brimlight_Grid, &qml_register_types_Brimlight_Notch};
 
 bool takesText(const QQuickItem *item)
 {
@@ -23,7 +23,8 @@ bool takesText(const QQuickItem *item)
 
 } // namespace
 
-NotchWindow::NotchWindow(const SurfaceFactory &makeSurface) : m_view(&m_engine, nullptr)
+NotchWindow::NotchWindow(const SurfaceFactory &makeSurface)
+    : m_view(&m_engine, nullptr)
 {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     m_view.setColor(Qt::transparent);
@@ -32,14 +33,32 @@ NotchWindow::NotchWindow(const SurfaceFactory &makeSurface) : m_view(&m_engine, 
     m_surface = makeSurface(m_view);
     connect(&m_view, &QQuickWindow::activeFocusItemChanged, this,
             [this] { m_surface->setWantsKeyboard(takesText(m_view.activeFocusItem())); });
+    // When somebody else has taken the keyboard, the text field is left, so that the next click asks for it
+    // again.
+    connect(&m_view, &QWindow::activeChanged, this, [this] {
+        if (!m_view.isActive())
+            leaveTextField();
+    });
 }
 
 NotchWindow::~NotchWindow() = default;
 
 void NotchWindow::host(NotchController &controller)
 {
+    m_translator = std::make_unique<UiTranslator>(*controller.appSettings());
+    connect(controller.appSettings(), &AppSettings::languageChanged, &m_engine, &QQmlEngine::retranslate);
     m_view.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
+    connect(controller.viewModel(), &NotchViewModel::isExpandedChanged, this, [this, &controller] {
+        if (!controller.viewModel()->isExpanded())
+            leaveTextField();
+    });
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Notch/NotchRoot.qml")));
+}
+
+void NotchWindow::leaveTextField()
+{
+    if (QQuickItem *item = m_view.activeFocusItem(); takesText(item))
+        item->setFocus(false);
 }
 
 } // namespace brimlight

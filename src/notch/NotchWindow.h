@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/UiTranslator.h"
 #include "notch/NotchController.h"
 
 #include <QQmlEngine>
@@ -24,7 +25,10 @@ public:
     QQuickView &view() { return m_view; }
 
 private:
+    void leaveTextField();
+
     QQmlEngine m_engine;
+    std::unique_ptr<UiTranslator> m_translator;
     QQuickView m_view;
     std::unique_ptr<OverlaySurface> m_surface;
 };

@@ -11,7 +11,7 @@ std::optional<Screen> chooseScreen(const Screens &screens)
         std::find_if(all.begin(), all.end(), [](const Screen &screen) { return screen.safeAreaTop > 0; });
     if (notched != all.end())
         return *notched;
-    if (const auto main = screens.mainScreen())
+    if (auto main = screens.mainScreen())
         return main;
     if (!all.empty())
         return all.front();

@@ -35,7 +35,8 @@ struct Content
 
 double expandedHeight(const Content &content, const NotchGeometry &geometry, const Screen &screen);
 
-/// Top centre of the screen, its top edge on the screen's top edge. `expandedHeight` counts only when expanded.
+/// Top centre of the screen, its top edge on the screen's top edge. `expandedHeight` counts only when
+/// expanded.
 Rect frame(bool expanded, double expandedHeight, const NotchGeometry &geometry, const Screen &screen);
 
 /// "(x,y widthxheight)" with each number cut to an integer, for trace lines.

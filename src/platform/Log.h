@@ -6,7 +6,8 @@ namespace brimlight {
 
 enum class LogLevel { info, notice, error };
 
-/// The system's log. Every message goes out under the program's subsystem; the category names the writing object.
+/// The system's log. Every message goes out under the program's subsystem; the category names the writing
+/// object.
 class Log
 {
 public:

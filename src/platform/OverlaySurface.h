@@ -32,9 +32,9 @@ struct SurfaceOutline
 
 /// The one window of the program: borderless, above everything, on every workspace, never focused by itself.
 ///
-/// Three things describe it. `extent` is what can be drawn on; it is set only at the edges of a state, since a
-/// resize costs a new buffer. `outlines` are what is drawn within it; the pointer reaches whatever lies below
-/// everywhere else. `sensor` is a strip that reports the pointer even while nothing is drawn.
+/// Three things describe it. `extent` is what can be drawn on; it is set only at the edges of a state, since
+/// a resize costs a new buffer. `outlines` are what is drawn within it; the pointer reaches whatever lies
+/// below everywhere else. `sensor` is a strip that reports the pointer even while nothing is drawn.
 class OverlaySurface
 {
 public:

@@ -35,9 +35,10 @@ public:
     /// Runs `body` once, `delay` from now; not earlier.
     virtual std::unique_ptr<Scheduled> after(std::chrono::milliseconds delay, std::function<void()> body) = 0;
 
-    /// Runs `body` every `period`, for the first time after one period. A firing may come up to `tolerance` late
-    /// so that wake-ups can be shared.
-    virtual std::unique_ptr<Scheduled> every(std::chrono::milliseconds period, std::chrono::milliseconds tolerance,
+    /// Runs `body` every `period`, for the first time after one period. A firing may come up to `tolerance`
+    /// late so that wake-ups can be shared.
+    virtual std::unique_ptr<Scheduled> every(std::chrono::milliseconds period,
+                                             std::chrono::milliseconds tolerance,
                                              std::function<void()> body) = 0;
 };
 

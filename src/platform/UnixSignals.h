@@ -10,8 +10,9 @@ class UnixSignals
 public:
     virtual ~UnixSignals() = default;
 
-    /// From now on `signal` no longer has its default effect but runs `action` on the loop. False when refused.
-    virtual bool install(int signal, std::function<void()> action) = 0;
+    /// From now on `signal` no longer has its default effect but runs `action` on the loop. False when
+    /// refused.
+    virtual bool install(int signal, const std::function<void()> &action) = 0;
 };
 
 } // namespace brimlight

@@ -22,7 +22,8 @@ public:
     virtual void setValue(const QString &key, const Value &value) = 0;
     virtual void remove(const QString &key) = 0;
 
-    /// The value if it is present and of this type, which is asked and never guessed: a text "1" is no number.
+    /// The value if it is present and of this type, which is asked and never guessed: a text "1" is no
+    /// number.
     template<typename T>
     std::optional<T> read(const QString &key) const
     {

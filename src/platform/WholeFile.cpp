@@ -38,7 +38,8 @@ bool WholeFile::write(const QByteArray &content)
 
 bool WholeFile::keepAside()
 {
-    // rename(2) would replace an earlier file kept aside, QFile::rename refuses to: the first free number is taken.
+    // rename(2) would replace an earlier file kept aside, QFile::rename refuses to: the first free number is
+    // taken.
     const QFileInfo info(m_path);
     if (info.exists() || info.isSymLink()) {
         constexpr int attempts = 10000;

@@ -4,7 +4,8 @@
 
 namespace brimlight {
 
-/// One kind of delayed work, of which at most one is pending. The owner tests its conditions again in the body.
+/// One kind of delayed work, of which at most one is pending. The owner tests its conditions again in the
+/// body.
 class WorkItem
 {
 public:

@@ -34,7 +34,8 @@ double Spring::velocity(double seconds) const
 {
     constexpr double h = 1e-5;
     const double before = std::max(seconds - h, 0.0);
-    return (value(std::chrono::duration<double>(seconds + h)) - value(std::chrono::duration<double>(before))) /
+    return (value(std::chrono::duration<double>(seconds + h)) -
+            value(std::chrono::duration<double>(before))) /
            (seconds + h - before);
 }
 
@@ -42,9 +43,8 @@ std::chrono::milliseconds Spring::settlingTime() const
 {
     // The last moment outside the band, found from behind: the slowest mode bounds where to begin.
     const double omega = 2 * std::numbers::pi / m_response;
-    const double rate = m_damping <= 1
-                            ? m_damping * omega
-                            : omega * (m_damping - std::sqrt(m_damping * m_damping - 1));
+    const double rate =
+        m_damping <= 1 ? m_damping * omega : omega * (m_damping - std::sqrt(m_damping * m_damping - 1));
     const auto bound = static_cast<long>(std::ceil(1000 * 2 * std::log(1 / settledWithin) / rate));
     for (long ms = bound; ms > 0; --ms) {
         if (std::abs(1 - value(std::chrono::milliseconds(ms))) > settledWithin)

@@ -13,11 +13,13 @@ namespace brimlight {
 class Spring
 {
 public:
-    /// `response` is the period of the undamped oscillation, above 0. `dampingFraction` is above 0; below 1 the
-    /// spring overshoots, at 1 it is critically damped.
+    /// `response` is the period of the undamped oscillation, above 0. `dampingFraction` is above 0; below 1
+    /// the spring overshoots, at 1 it is critically damped.
     constexpr Spring(std::chrono::duration<double> response, double dampingFraction)
-        : m_response(response.count()), m_damping(dampingFraction)
-    {}
+        : m_response(response.count())
+        , m_damping(dampingFraction)
+    {
+    }
 
     /// From 0 at the start to 1 at rest; `time` counts from the start.
     double value(std::chrono::duration<double> time) const;

@@ -8,7 +8,8 @@ ThemeColor ThemeColor::fromHex(const QString &hex, double opacity)
     if (digits.startsWith(QLatin1Char('#')))
         digits.remove(0, 1);
     const uint number = digits.toUInt(nullptr, 16);
-    return {((number >> 16) & 0xFF) / 255.0, ((number >> 8) & 0xFF) / 255.0, (number & 0xFF) / 255.0, opacity};
+    return {((number >> 16) & 0xFF) / 255.0, ((number >> 8) & 0xFF) / 255.0, (number & 0xFF) / 255.0,
+            opacity};
 }
 
 Theme Theme::midnight()

@@ -2,6 +2,9 @@
 
 namespace brimlight {
 
-ThemeStore::ThemeStore(QObject *parent) : QObject(parent) {}
+ThemeStore::ThemeStore(QObject *parent)
+    : QObject(parent)
+{
+}
 
 } // namespace brimlight

@@ -39,7 +39,10 @@ int argumentCount(char16_t command)
 class PathReader
 {
 public:
-    explicit PathReader(const QString &text) : m_text(text) {}
+    explicit PathReader(const QString &text)
+        : m_text(text)
+    {
+    }
 
     bool atEnd()
     {
@@ -89,7 +92,8 @@ public:
 private:
     void skipSeparators()
     {
-        while (m_position < m_text.size() && (m_text.at(m_position).isSpace() || m_text.at(m_position) == u','))
+        while (m_position < m_text.size() &&
+               (m_text.at(m_position).isSpace() || m_text.at(m_position) == u','))
             ++m_position;
     }
 
@@ -188,14 +192,15 @@ std::optional<DisplayPanelData> parseDisplayPanel(const QByteArray &json)
         return std::nullopt;
     const QRectF display(0, 0, panel.width, panel.height);
     const QJsonArray cutouts = root.value(QLatin1String("cutouts")).toArray();
-    for (const QJsonValue &cutout : cutouts) {
+    for (const auto &cutout : cutouts) {
         const auto bounds = svgPathBounds(cutout.toObject().value(QLatin1String("path")).toString());
         if (!bounds)
             continue;
         const QRectF inside = bounds->intersected(display);
         // A punch hole a little below the edge belongs to the housing as well.
         const double reach = panel.height / 10;
-        if (!inside.isEmpty() && inside.top() < reach && (!panel.topCutout || inside.top() < panel.topCutout->top()))
+        if (!inside.isEmpty() && inside.top() < reach &&
+            (!panel.topCutout || inside.top() < panel.topCutout->top()))
             panel.topCutout = inside;
     }
     return panel;

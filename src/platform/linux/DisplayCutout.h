@@ -18,8 +18,8 @@ struct DisplayPanelData
     std::optional<QRectF> topCutout;
 };
 
-/// Reads the JSON of one display panel as phone shells install it: "x-res", "y-res" and "cutouts", each with an SVG
-/// "path". Absent when the bytes are no such document.
+/// Reads the JSON of one display panel as phone shells install it: "x-res", "y-res" and "cutouts", each with
+/// an SVG "path". Absent when the bytes are no such document.
 std::optional<DisplayPanelData> parseDisplayPanel(const QByteArray &json);
 
 /// The bounds of the points of an SVG path, control points included; absent when it does not parse.

@@ -4,7 +4,8 @@
 
 namespace brimlight {
 
-/// The systemd journal, with the fields SUBSYSTEM and CATEGORY. Without a journal messages are lost, silently.
+/// The systemd journal, with the fields SUBSYSTEM and CATEGORY. Without a journal messages are lost,
+/// silently.
 class JournalLog : public Log
 {
 public:

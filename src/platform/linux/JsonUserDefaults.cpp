@@ -14,7 +14,7 @@ QString dataKey()
 std::optional<UserDefaults::Value> decodeList(const QJsonArray &array)
 {
     QStringList list;
-    for (const QJsonValue &element : array) {
+    for (const auto &element : array) {
         if (!element.isString())
             return std::nullopt;
         list.append(element.toString());
@@ -27,8 +27,8 @@ std::optional<UserDefaults::Value> decodeData(const QJsonObject &object)
     const QJsonValue encoded = object.value(dataKey());
     if (object.size() != 1 || !encoded.isString())
         return std::nullopt;
-    const auto decoded =
-        QByteArray::fromBase64Encoding(encoded.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    const auto decoded = QByteArray::fromBase64Encoding(encoded.toString().toLatin1(),
+                                                        QByteArray::AbortOnBase64DecodingErrors);
     if (!decoded)
         return std::nullopt;
     return decoded.decoded;
@@ -68,7 +68,8 @@ struct Encode
 
 } // namespace
 
-JsonUserDefaults::JsonUserDefaults(const QString &path) : m_file(path)
+JsonUserDefaults::JsonUserDefaults(const QString &path)
+    : m_file(path)
 {
     const auto content = m_file.read();
     if (!content)

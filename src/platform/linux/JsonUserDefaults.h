@@ -9,9 +9,9 @@ namespace brimlight {
 
 /// User defaults in one JSON object, rewritten whole at every assignment.
 ///
-/// Booleans, numbers, texts and lists of texts are the JSON values of that name; data is an object with the one key
-/// "data" and its bytes in Base64. A member of any other shape counts as absent and is carried along unchanged until
-/// its key is assigned. A file that is no JSON object is kept aside before the first write.
+/// Booleans, numbers, texts and lists of texts are the JSON values of that name; data is an object with the
+/// one key "data" and its bytes in Base64. A member of any other shape counts as absent and is carried along
+/// unchanged until its key is assigned. A file that is no JSON object is kept aside before the first write.
 class JsonUserDefaults : public UserDefaults
 {
 public:

@@ -15,11 +15,15 @@
 namespace brimlight {
 namespace {
 
-/// A surface without a display: the window stands where it is put and nothing else happens. For offscreen runs.
+/// A surface without a display: the window stands where it is put and nothing else happens. For offscreen
+/// runs.
 class BareSurface : public OverlaySurface
 {
 public:
-    explicit BareSurface(QWindow &window) : m_window(window) {}
+    explicit BareSurface(QWindow &window)
+        : m_window(window)
+    {
+    }
 
     void setEvents(Events) override {}
     void orderFront() override { m_window.show(); }
@@ -52,8 +56,8 @@ struct LinuxPlatform::Backends
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
     {
         return std::make_unique<X11Connection::Listening>(
-            *x11, [this, root = x11->root(), current = x11->atom("_NET_CURRENT_DESKTOP")](
-                      const xcb_generic_event_t &event) {
+            *x11, [this, root = x11->root(),
+                   current = x11->atom("_NET_CURRENT_DESKTOP")](const xcb_generic_event_t &event) {
                 const auto &property = reinterpret_cast<const xcb_property_notify_event_t &>(event);
                 if ((event.response_type & ~0x80) == XCB_PROPERTY_NOTIFY && property.window == root &&
                     property.atom == current)
@@ -63,7 +67,10 @@ struct LinuxPlatform::Backends
     }
 };
 
-LinuxPlatform::LinuxPlatform() : m_backends(std::make_unique<Backends>()) {}
+LinuxPlatform::LinuxPlatform()
+    : m_backends(std::make_unique<Backends>())
+{
+}
 
 LinuxPlatform::~LinuxPlatform() = default;
 

@@ -35,11 +35,11 @@ PipeUnixSignals::~PipeUnixSignals()
     }
 }
 
-bool PipeUnixSignals::install(int signal, std::function<void()> action)
+bool PipeUnixSignals::install(int signal, const std::function<void()> &action)
 {
     if (!openPipe())
         return false;
-    m_actions.insert(signal, std::move(action));
+    m_actions.insert(signal, action);
     struct sigaction disposition = {};
     disposition.sa_handler = forward;
     disposition.sa_flags = SA_RESTART;

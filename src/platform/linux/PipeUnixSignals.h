@@ -9,14 +9,15 @@
 
 namespace brimlight {
 
-/// Signals through a pipe to the event loop. One per process, since signal dispositions are the process's own.
+/// Signals through a pipe to the event loop. One per process, since signal dispositions are the process's
+/// own.
 class PipeUnixSignals : public UnixSignals
 {
 public:
     PipeUnixSignals() = default;
     ~PipeUnixSignals() override;
 
-    bool install(int signal, std::function<void()> action) override;
+    bool install(int signal, const std::function<void()> &action) override;
 
 private:
     bool openPipe();

@@ -35,7 +35,8 @@ Rect flipped(const QRectF &rect, const QRectF &primary)
 
 QRectF unflipped(const Rect &rect, const QRectF &primary)
 {
-    return {rect.x + primary.x(), primary.y() + primary.height() - rect.y - rect.height, rect.width, rect.height};
+    return {rect.x + primary.x(), primary.y() + primary.height() - rect.y - rect.height, rect.width,
+            rect.height};
 }
 
 void applyCutout(Screen &screen, const DisplayPanelData &panel, double devicePixelRatio)
@@ -56,7 +57,8 @@ void applyCutout(Screen &screen, const DisplayPanelData &panel, double devicePix
     screen.auxiliaryTopRightArea = Rect{screen.frame.x + right, y, screen.frame.width - right, bottom};
 }
 
-QtScreens::QtScreens(std::optional<DisplayPanelData> panel) : m_panel(std::move(panel))
+QtScreens::QtScreens(const std::optional<DisplayPanelData> &panel)
+    : m_panel(panel)
 {
     const QList<QScreen *> screens = QGuiApplication::screens();
     for (QScreen *screen : screens)
@@ -114,10 +116,7 @@ Screen QtScreens::describe(const QScreen &screen) const
     const QRectF primary = primaryFrame();
     Screen described{.localizedName = screen.name(),
                      .frame = flipped(screen.geometry(), primary),
-                     .visibleFrame = flipped(screen.availableGeometry(), primary),
-                     .safeAreaTop = 0,
-                     .auxiliaryTopLeftArea = std::nullopt,
-                     .auxiliaryTopRightArea = std::nullopt};
+                     .visibleFrame = flipped(screen.availableGeometry(), primary)};
     if (m_panel && isBuiltIn(screen.name()))
         applyCutout(described, *m_panel, screen.devicePixelRatio());
     return described;

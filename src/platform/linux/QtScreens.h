@@ -8,8 +8,8 @@
 
 namespace brimlight {
 
-/// A screen in Qt's coordinates (origin at the top left, y downwards) as the logic sees it. `primary` is the frame
-/// of the primary screen, whose lower left corner is the origin.
+/// A screen in Qt's coordinates (origin at the top left, y downwards) as the logic sees it. `primary` is the
+/// frame of the primary screen, whose lower left corner is the origin.
 Rect flipped(const QRectF &rect, const QRectF &primary);
 /// The way back.
 QRectF unflipped(const Rect &rect, const QRectF &primary);
@@ -21,7 +21,7 @@ void applyCutout(Screen &screen, const DisplayPanelData &panel, double devicePix
 class QtScreens : public QObject, public Screens
 {
 public:
-    explicit QtScreens(std::optional<DisplayPanelData> panel);
+    explicit QtScreens(const std::optional<DisplayPanelData> &panel);
 
     std::vector<Screen> screens() const override;
     std::optional<Screen> mainScreen() const override;

@@ -47,12 +47,13 @@ std::optional<double> advance(std::optional<ScrollAxis> &axis, const xcb_input_b
 
 bool hasTouchpadProperty(X11Connection &connection, xcb_input_device_id_t id)
 {
-    const auto reply = adopt(
-        xcb_input_xi_list_properties_reply(connection, xcb_input_xi_list_properties(connection, id), nullptr));
+    const auto reply = adopt(xcb_input_xi_list_properties_reply(
+        connection, xcb_input_xi_list_properties(connection, id), nullptr));
     if (!reply)
         return false;
     // What only the drivers of touchpads offer.
-    const xcb_atom_t wanted[] = {connection.atom("libinput Tapping Enabled"), connection.atom("Synaptics Off")};
+    const xcb_atom_t wanted[] = {connection.atom("libinput Tapping Enabled"),
+                                 connection.atom("Synaptics Off")};
     const xcb_atom_t *properties = xcb_input_xi_list_properties_properties(reply.get());
     const int count = xcb_input_xi_list_properties_properties_length(reply.get());
     for (int i = 0; i < count; ++i) {
@@ -66,7 +67,8 @@ bool hasTouchpadProperty(X11Connection &connection, xcb_input_device_id_t id)
 
 void readScrollClasses(const xcb_input_xi_device_info_t &device, ScrollSource &source)
 {
-    for (auto it = xcb_input_xi_device_info_classes_iterator(&device); it.rem; xcb_input_device_class_next(&it)) {
+    for (auto it = xcb_input_xi_device_info_classes_iterator(&device); it.rem;
+         xcb_input_device_class_next(&it)) {
         if (it.data->type != XCB_INPUT_DEVICE_CLASS_TYPE_SCROLL)
             continue;
         const auto &scroll = *reinterpret_cast<const xcb_input_scroll_class_t *>(it.data);
@@ -117,7 +119,8 @@ std::optional<ScrollStep> TouchpadScroll::read(const xcb_input_button_press_even
     if (event.event_type == XCB_INPUT_MOTION)
         return scrollStep(event, from, freshStart);
     // The server also sends a button for every click of a scroll axis that has been reported already.
-    if (event.event_type == XCB_INPUT_BUTTON_PRESS && !(event.flags & XCB_INPUT_POINTER_EVENT_FLAGS_POINTER_EMULATED))
+    if (event.event_type == XCB_INPUT_BUTTON_PRESS &&
+        !(event.flags & XCB_INPUT_POINTER_EVENT_FLAGS_POINTER_EMULATED))
         return scrollStep(event.detail);
     return std::nullopt;
 }
@@ -128,8 +131,8 @@ ScrollSource &TouchpadScroll::source(xcb_input_device_id_t id)
     if (known != m_sources.end())
         return *known;
     ScrollSource found;
-    const auto reply =
-        adopt(xcb_input_xi_query_device_reply(m_connection, xcb_input_xi_query_device(m_connection, id), nullptr));
+    const auto reply = adopt(
+        xcb_input_xi_query_device_reply(m_connection, xcb_input_xi_query_device(m_connection, id), nullptr));
     if (reply) {
         found.isTouchpad = hasTouchpadProperty(m_connection, id);
         for (auto it = xcb_input_xi_query_device_infos_iterator(reply.get()); it.rem;

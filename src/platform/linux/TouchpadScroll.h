@@ -38,19 +38,24 @@ struct ScrollStep
 /// Points that a touchpad moves for what a wheel calls one click; libinput's own unit.
 inline constexpr double pointsPerClick = 15;
 
-/// The step from the last known values of `source` to those of a motion event; updates them. Absent when the event
-/// moves no scroll axis. `freshStart` forgets the last values, which other windows may have scrolled past.
+/// The step from the last known values of `source` to those of a motion event; updates them. Absent when the
+/// event moves no scroll axis. `freshStart` forgets the last values, which other windows may have scrolled
+/// past.
 std::optional<ScrollStep> scrollStep(const xcb_input_button_press_event_t &motion, ScrollSource &source,
                                      bool freshStart);
 
-/// The step of a wheel button (4 up, 5 down, 6 left, 7 right), as older touchpad drivers send it; absent for others.
+/// The step of a wheel button (4 up, 5 down, 6 left, 7 right), as older touchpad drivers send it; absent for
+/// others.
 std::optional<ScrollStep> scrollStep(uint32_t button);
 
 /// Picks the scroll steps of touchpads out of the X server's events.
 class TouchpadScroll
 {
 public:
-    explicit TouchpadScroll(X11Connection &connection) : m_connection(connection) {}
+    explicit TouchpadScroll(X11Connection &connection)
+        : m_connection(connection)
+    {
+    }
 
     /// The step in a pointer event over one of our windows, absent when it is no touchpad's scrolling.
     std::optional<ScrollStep> read(const xcb_input_button_press_event_t &event, bool freshStart);

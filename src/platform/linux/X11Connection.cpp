@@ -12,7 +12,8 @@
 namespace brimlight {
 
 X11Connection::Listening::Listening(X11Connection &connection, Listener listener)
-    : m_connection(connection), m_listener(std::move(listener))
+    : m_connection(connection)
+    , m_listener(std::move(listener))
 {
     m_connection.m_listenings.append(this);
 }
@@ -31,7 +32,8 @@ std::unique_ptr<X11Connection> X11Connection::ofApplication()
 }
 
 X11Connection::X11Connection(xcb_connection_t *xcb)
-    : m_xcb(xcb), m_root(xcb_setup_roots_iterator(xcb_get_setup(xcb)).data->root)
+    : m_xcb(xcb)
+    , m_root(xcb_setup_roots_iterator(xcb_get_setup(xcb)).data->root)
 {
     // All questions go out before the first answer is waited for.
     const auto xwaylandCookie =
@@ -45,8 +47,8 @@ X11Connection::X11Connection(xcb_connection_t *xcb)
 
     const xcb_query_extension_reply_t *input = xcb_get_extension_data(m_xcb, &xcb_input_id);
     if (input && input->present) {
-        const auto version = adopt(
-            xcb_input_xi_query_version_reply(m_xcb, xcb_input_xi_query_version(m_xcb, 2, 2), nullptr));
+        const auto version =
+            adopt(xcb_input_xi_query_version_reply(m_xcb, xcb_input_xi_query_version(m_xcb, 2, 2), nullptr));
         if (version && (version->major_version > 2 || version->minor_version >= 2))
             m_inputOpcode = input->major_opcode;
     }
@@ -71,8 +73,8 @@ void X11Connection::watchCompositor()
 {
     const xcb_query_extension_reply_t *fixes = xcb_get_extension_data(m_xcb, &xcb_xfixes_id);
     if (fixes && fixes->present) {
-        const auto version = adopt(
-            xcb_xfixes_query_version_reply(m_xcb, xcb_xfixes_query_version(m_xcb, 5, 0), nullptr));
+        const auto version =
+            adopt(xcb_xfixes_query_version_reply(m_xcb, xcb_xfixes_query_version(m_xcb, 5, 0), nullptr));
         if (version) {
             m_fixesEvent = fixes->first_event + XCB_XFIXES_SELECTION_NOTIFY;
             xcb_xfixes_select_selection_input(m_xcb, m_root, m_compositorSelection,
@@ -81,8 +83,8 @@ void X11Connection::watchCompositor()
                                                   XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
         }
     }
-    const auto owner = adopt(xcb_get_selection_owner_reply(
-        m_xcb, xcb_get_selection_owner(m_xcb, m_compositorSelection), nullptr));
+    const auto owner = adopt(
+        xcb_get_selection_owner_reply(m_xcb, xcb_get_selection_owner(m_xcb, m_compositorSelection), nullptr));
     m_isComposited = owner && owner->owner != XCB_WINDOW_NONE;
 }
 

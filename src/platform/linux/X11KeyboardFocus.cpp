@@ -6,8 +6,10 @@
 namespace brimlight {
 
 X11KeyboardFocus::X11KeyboardFocus(X11Connection &connection, xcb_window_t window)
-    : m_connection(connection), m_window(window)
-{}
+    : m_connection(connection)
+    , m_window(window)
+{
+}
 
 void X11KeyboardFocus::take()
 {
@@ -30,13 +32,15 @@ void X11KeyboardFocus::giveBack()
 
 xcb_window_t X11KeyboardFocus::current() const
 {
-    const auto reply = adopt(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    const auto reply =
+        adopt(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
     return reply ? reply->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
 bool X11KeyboardFocus::focus(xcb_window_t window)
 {
-    const auto cookie = xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+    const auto cookie =
+        xcb_set_input_focus_checked(m_connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
     return !adopt(xcb_request_check(m_connection, cookie));
 }
 

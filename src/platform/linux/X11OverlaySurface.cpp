@@ -23,8 +23,8 @@ QRectF primaryFrame()
 /// Prepares the window and makes its native counterpart.
 QWindow &prepared(QWindow &window)
 {
-    window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::X11BypassWindowManagerHint |
-                    Qt::NoDropShadowWindowHint);
+    window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                    Qt::X11BypassWindowManagerHint | Qt::NoDropShadowWindowHint);
     QSurfaceFormat format = window.requestedFormat();
     format.setAlphaBufferSize(8);
     window.setFormat(format);
@@ -34,7 +34,8 @@ QWindow &prepared(QWindow &window)
 
 } // namespace
 
-std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent, double devicePixelRatio)
+std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent,
+                                         double devicePixelRatio)
 {
     const auto pixels = [&](double points) { return points * devicePixelRatio; };
     const double left = std::floor(pixels(outline.frame.minX() - extent.minX()));
@@ -53,8 +54,8 @@ std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Re
     if (bottom - radius > top)
         rows.push_back(row(top, 0, bottom - radius - top));
     for (double y = std::max(top, bottom - radius); y < bottom; ++y) {
-        // The quadratic corner from (0, 0) by (0, r) to (r, r): at depth d it stands t^2 r in, t = 1 - sqrt(1 - d/r).
-        // The upper edge of the row decides, so that no pixel that is drawn in part is cut off.
+        // The quadratic corner from (0, 0) by (0, r) to (r, r): at depth d it stands t^2 r in, t = 1 - sqrt(1
+        // - d/r). The upper edge of the row decides, so that no pixel that is drawn in part is cut off.
         const double depth = y - (bottom - radius);
         const double t = 1 - std::sqrt(1 - depth / radius);
         rows.push_back(row(y, std::floor(radius * t * t), 1));
@@ -71,7 +72,8 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     , m_keyboard(connection, static_cast<xcb_window_t>(window.winId()))
     , m_stacking(connection, scheduler, [this] { raise(); })
     , m_touchpad(connection)
-    , m_gesture(scheduler, [this](const ScrollEvent &event) { return m_events.scrolled && m_events.scrolled(event); })
+    , m_gesture(scheduler,
+                [this](const ScrollEvent &event) { return m_events.scrolled && m_events.scrolled(event); })
     , m_listening(connection, [this](const xcb_generic_event_t &event) { return handle(event); })
 {
     // New parts of a grown window are transparent until they are painted, instead of whatever memory held.
@@ -205,8 +207,8 @@ void X11OverlaySurface::pointerWent()
     if (!m_over)
         return;
     // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving.
-    const auto reply =
-        adopt(xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
+    const auto reply = adopt(
+        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
     if (reply && isOurs(reply->child))
         return;
     m_over = false;
@@ -219,8 +221,8 @@ void X11OverlaySurface::raise()
 {
     const uint32_t above = XCB_STACK_MODE_ABOVE;
     xcb_configure_window(m_connection, m_sensor.id(), XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    xcb_configure_window(m_connection, static_cast<xcb_window_t>(m_window.winId()), XCB_CONFIG_WINDOW_STACK_MODE,
-                         &above);
+    xcb_configure_window(m_connection, static_cast<xcb_window_t>(m_window.winId()),
+                         XCB_CONFIG_WINDOW_STACK_MODE, &above);
     m_connection.flush();
 }
 

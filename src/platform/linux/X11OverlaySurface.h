@@ -16,13 +16,15 @@
 namespace brimlight {
 
 /// The rows of pixels that an outline covers, within a window whose frame is `extent`.
-std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent, double devicePixelRatio);
+std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent,
+                                         double devicePixelRatio);
 
 /// A window outside of the window manager's care, with a sensor beneath it.
 class X11OverlaySurface : public QObject, public OverlaySurface
 {
 public:
-    /// Prepares `window`, which must not have been shown. `overChanged` hears when the pointer comes and goes.
+    /// Prepares `window`, which must not have been shown. `overChanged` hears when the pointer comes and
+    /// goes.
     X11OverlaySurface(QWindow &window, X11Connection &connection, Scheduler &scheduler,
                       std::function<void(bool)> overChanged);
 

@@ -19,7 +19,9 @@ class WindowEvents : public QObject, public EventMonitor
 public:
     using Wanted = bool (*)(const QEvent &);
 
-    WindowEvents(Wanted wanted, std::function<void()> happened) : m_wanted(wanted), m_happened(std::move(happened))
+    WindowEvents(Wanted wanted, std::function<void()> happened)
+        : m_wanted(wanted)
+        , m_happened(std::move(happened))
     {
         qGuiApp->installEventFilter(this);
     }
@@ -41,8 +43,9 @@ class RawMotion : public EventMonitor
 {
 public:
     RawMotion(X11Connection &connection, std::function<void()> moved)
-        : m_connection(connection), m_listening(connection, [opcode = connection.inputOpcode(), moved = std::move(moved)](
-                                                                const xcb_generic_event_t &event) {
+        : m_connection(connection)
+        , m_listening(connection, [opcode = connection.inputOpcode(),
+                                   moved = std::move(moved)](const xcb_generic_event_t &event) {
             const auto &generic = reinterpret_cast<const xcb_ge_generic_event_t &>(event);
             if ((event.response_type & ~0x80) != XCB_GE_GENERIC || generic.extension != opcode ||
                 generic.event_type != XCB_INPUT_RAW_MOTION)
@@ -90,17 +93,17 @@ bool X11Pointer::isAnyButtonPressed() const
 {
     if (!m_connection)
         return QGuiApplication::mouseButtons() != Qt::NoButton;
-    const auto reply = adopt(
-        xcb_query_pointer_reply(*m_connection, xcb_query_pointer(*m_connection, m_connection->root()), nullptr));
-    constexpr uint16_t anyButton = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3 | XCB_BUTTON_MASK_4 |
-                                   XCB_BUTTON_MASK_5;
+    const auto reply = adopt(xcb_query_pointer_reply(
+        *m_connection, xcb_query_pointer(*m_connection, m_connection->root()), nullptr));
+    constexpr uint16_t anyButton =
+        XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3 | XCB_BUTTON_MASK_4 | XCB_BUTTON_MASK_5;
     return reply && (reply->mask & anyButton) != 0;
 }
 
 std::unique_ptr<EventMonitor> X11Pointer::monitorLocalMotion(std::function<void()> moved)
 {
-    return std::make_unique<WindowEvents>([](const QEvent &event) { return event.type() == QEvent::MouseMove; },
-                                          std::move(moved));
+    return std::make_unique<WindowEvents>(
+        [](const QEvent &event) { return event.type() == QEvent::MouseMove; }, std::move(moved));
 }
 
 std::unique_ptr<EventMonitor> X11Pointer::monitorGlobalMotion(std::function<void()> moved)

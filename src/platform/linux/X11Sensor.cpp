@@ -8,7 +8,9 @@
 
 namespace brimlight {
 
-X11Sensor::X11Sensor(X11Connection &connection) : m_connection(connection), m_id(xcb_generate_id(connection))
+X11Sensor::X11Sensor(X11Connection &connection)
+    : m_connection(connection)
+    , m_id(xcb_generate_id(connection))
 {
     uint32_t events = XCB_EVENT_MASK_ENTER_WINDOW | XCB_EVENT_MASK_LEAVE_WINDOW;
     if (connection.inputOpcode() == 0)

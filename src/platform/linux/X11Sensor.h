@@ -8,9 +8,9 @@ namespace brimlight {
 
 class X11Connection;
 
-/// An invisible window that only feels the pointer. It lies under the drawn window and takes over when nothing is
-/// drawn: without a compositor a transparent window would be black, with one it would keep full-screen programs
-/// from scanning out directly.
+/// An invisible window that only feels the pointer. It lies under the drawn window and takes over when
+/// nothing is drawn: without a compositor a transparent window would be black, with one it would keep
+/// full-screen programs from scanning out directly.
 class X11Sensor
 {
 public:

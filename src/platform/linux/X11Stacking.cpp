@@ -9,7 +9,8 @@ X11Stacking::X11Stacking(X11Connection &connection, Scheduler &scheduler, std::f
     , m_stackingList(connection.atom("_NET_CLIENT_LIST_STACKING"))
     , m_activeWindow(connection.atom("_NET_ACTIVE_WINDOW"))
     , m_listening(connection, [this](const xcb_generic_event_t &event) { return handle(event); })
-{}
+{
+}
 
 bool X11Stacking::handle(const xcb_generic_event_t &event)
 {

@@ -5,8 +5,9 @@
 
 namespace brimlight {
 
-/// Keeps our windows above the managed ones. They are outside of the window manager's care, so whenever it restacks
-/// its own, ours are raised again. Windows outside of its care, such as a screen locker, are left above us.
+/// Keeps our windows above the managed ones. They are outside of the window manager's care, so whenever it
+/// restacks its own, ours are raised again. Windows outside of its care, such as a screen locker, are left
+/// above us.
 class X11Stacking
 {
 public:

@@ -1,0 +1,226 @@
+#include "notch/ControllerFixture.h"
+
+namespace brimlight::test {
+
+class State : public ControllerTest
+{
+};
+
+TEST_F(State, StartsCollapsedUnpinnedOnTheFirstPage)
+{
+    start();
+    EXPECT_FALSE(isExpanded());
+    EXPECT_FALSE(model().isPinned());
+    EXPECT_EQ(model().currentPage(), 0);
+    EXPECT_EQ(hosting.hosted, &*controller);
+    EXPECT_TRUE(surface().isFront);
+    EXPECT_TRUE(surface().outlines.empty()) << "nothing is drawn";
+}
+
+TEST_F(State, ConstructionPlacesNothingOnScreen)
+{
+    controller.emplace(platform, hosting, log);
+    EXPECT_FALSE(surface().isFront);
+    EXPECT_TRUE(lines().isEmpty());
+}
+
+TEST_F(State, ShowPlacesThenOrdersFront)
+{
+    start();
+    EXPECT_EQ(
+        lines(),
+        (QStringList{QStringLiteral("Repositioned on \"Fake\": hasNotch=false collapsed=200x32 "
+                                    "frame=(620,868 200x32)"),
+                     QStringLiteral("Notch panel ordered front (theme=Midnight, widgets=4, pages=1)")}));
+}
+
+TEST_F(State, ExpandingTraces)
+{
+    start();
+    lines();
+    controller->setExpanded(true);
+    EXPECT_EQ(lines(), (QStringList{QStringLiteral("Ticker active=true interval=1.0"),
+                                    QStringLiteral("Notch EXPANDED frame=(452,542 536x358)")}));
+    controller->setExpanded(false);
+    EXPECT_EQ(lines(), (QStringList{QStringLiteral("Ticker active=false interval=1.0"),
+                                    QStringLiteral("Notch COLLAPSED frame=(620,868 200x32)")}));
+}
+
+TEST_F(State, SettingTheStateItHasChangesNothing)
+{
+    start();
+    controller->setExpanded(true);
+    lines();
+    controller->setExpanded(true);
+    EXPECT_TRUE(lines().isEmpty());
+}
+
+TEST_F(State, SettingTheStateItHasStillCancelsAPendingExpand)
+{
+    start();
+    enter();
+    EXPECT_TRUE(controller->isExpandPending());
+    controller->setExpanded(false);
+    EXPECT_FALSE(controller->isExpandPending());
+}
+
+TEST_F(State, SetExpandedTouchesNeitherPinNorSettings)
+{
+    start();
+    controller->openSettings();
+    controller->setExpanded(false);
+    EXPECT_TRUE(model().isPinned());
+    EXPECT_TRUE(model().showSettings());
+}
+
+TEST_F(State, CollapsingCancelsThePendingCollapse)
+{
+    start();
+    openByHover();
+    leave();
+    EXPECT_TRUE(controller->isCollapsePending());
+    controller->setExpanded(false);
+    EXPECT_FALSE(controller->isCollapsePending());
+}
+
+TEST_F(State, TapOnTheStripPinsAndASecondTapCloses)
+{
+    start();
+    lines();
+    surface().events.tapped();
+    EXPECT_TRUE(isExpanded());
+    EXPECT_TRUE(model().isPinned());
+    EXPECT_EQ(lines().last(), QStringLiteral("Tap toggle pin -> pinned=true"));
+    pointer.where = farAway;
+    scheduler.advance(5s);
+    EXPECT_TRUE(isExpanded());
+    controller->tap();
+    EXPECT_FALSE(isExpanded());
+    EXPECT_FALSE(model().isPinned());
+    EXPECT_EQ(lines().last(), QStringLiteral("Notch COLLAPSED frame=(620,868 200x32)"))
+        << "a tap on the open panel asks to close, it toggles nothing";
+}
+
+TEST_F(State, PinButtonUnpinsAndCollapsesWhereverThePointerIs)
+{
+    start();
+    openByHover();
+    controller->togglePin();
+    EXPECT_TRUE(model().isPinned());
+    EXPECT_TRUE(isExpanded());
+    lines();
+    controller->togglePin();
+    EXPECT_FALSE(isExpanded());
+    EXPECT_EQ(lines().last(), QStringLiteral("Tap toggle pin -> pinned=false"));
+}
+
+TEST_F(State, SettingsOpenPinnedAndShown)
+{
+    start();
+    controller->openSettings();
+    scheduler.runPosted();
+    EXPECT_TRUE(isExpanded());
+    EXPECT_TRUE(model().isPinned());
+    EXPECT_TRUE(model().showSettings());
+    EXPECT_EQ(panel().frame().height, 540);
+}
+
+TEST_F(State, DroppedFilesOpenAndPin)
+{
+    start();
+    lines();
+    controller->filesDropped();
+    EXPECT_TRUE(isExpanded());
+    EXPECT_TRUE(model().isPinned());
+    EXPECT_EQ(lines().last(), QStringLiteral("Files dropped on notch -> shelf (0 items)"));
+}
+
+TEST_F(State, RequestCloseUnpinsAndCollapses)
+{
+    start();
+    controller->open();
+    controller->requestClose();
+    EXPECT_FALSE(isExpanded());
+    EXPECT_FALSE(model().isPinned());
+}
+
+TEST_F(State, CollapsedButPinnedExpandsOnEntryAndStaysOpen)
+{
+    start();
+    controller->open();
+    controller->setExpanded(false);
+    EXPECT_TRUE(model().isPinned());
+    openByHover();
+    leave();
+    scheduler.advance(5s);
+    EXPECT_TRUE(isExpanded());
+}
+
+TEST_F(State, SwipeDownPinsOpenAndSwipeUpCloses)
+{
+    start();
+    swipe(0, 40);
+    EXPECT_TRUE(isExpanded());
+    EXPECT_TRUE(model().isPinned());
+    swipe(0, -40);
+    EXPECT_FALSE(isExpanded());
+    EXPECT_FALSE(model().isPinned());
+}
+
+TEST_F(State, SwipesDoNothingWhileAnOverlayOwnsThePanelButATapActs)
+{
+    start();
+    setPages(3);
+    controller->open();
+    model().setOptionsOpen(true);
+    swipe(-40, 0);
+    EXPECT_EQ(model().currentPage(), 0);
+    swipe(0, -40);
+    EXPECT_TRUE(isExpanded());
+    controller->tap();
+    EXPECT_FALSE(isExpanded());
+}
+
+TEST_F(State, TickRunsOnlyWhileExpandedAtTheChosenRate)
+{
+    defaults.values.insert(QStringLiteral("brimlight.refreshRate"), QStringLiteral("saver"));
+    start();
+    EXPECT_FALSE(controller->ticker()->isActive());
+    EXPECT_EQ(controller->ticker()->interval(), 5s);
+    controller->setExpanded(true);
+    EXPECT_TRUE(controller->ticker()->isActive());
+    controller->appSettings()->setRefreshRate(RefreshRate::live);
+    EXPECT_EQ(controller->ticker()->interval(), 5s) << "subscribers work one turn later";
+    scheduler.runPosted();
+    EXPECT_EQ(controller->ticker()->interval(), 500ms);
+    controller->setExpanded(false);
+    EXPECT_FALSE(controller->ticker()->isActive());
+}
+
+TEST_F(State, WithoutAScreenExpandingOnlyFlipsTheFlag)
+{
+    screens.setNone();
+    start();
+    EXPECT_EQ(lines().first(), QStringLiteral("No screen available — skipping placement"));
+    const Rect before = panel().frame();
+    controller->setExpanded(true);
+    EXPECT_TRUE(isExpanded());
+    EXPECT_EQ(panel().frame(), before);
+    EXPECT_FALSE(controller->ticker()->isActive());
+    EXPECT_TRUE(pointer.local.empty());
+    EXPECT_TRUE(lines().isEmpty());
+    controller->setExpanded(false);
+    EXPECT_FALSE(isExpanded());
+}
+
+TEST_F(State, GoneControllerIsNotReachedByPostedWork)
+{
+    start();
+    controller->appSettings()->setRefreshRate(RefreshRate::saver);
+    controller->viewModel()->setShowSettings(true);
+    controller.reset();
+    scheduler.runPosted();
+    SUCCEED() << "no crash";
+}
+
+} // namespace brimlight::test
