@@ -92,6 +92,8 @@ public:
 private:
     void append(const void *bytes, size_t count)
     {
+        if (count == 0)
+            return;
         const size_t at = m_words.size();
         m_words.resize(at + count / sizeof(uint32_t));
         std::memcpy(m_words.data() + at, bytes, count);

@@ -6,10 +6,24 @@
 #include <xcb/xinput.h>
 
 #include <QGuiApplication>
+#include <QScreen>
 
+#include <algorithm>
 #include <cstring>
 
 namespace brimlight {
+namespace {
+
+/// XWayland before 23.1 has no extension to be known by, but names its outputs after itself.
+bool hasXWaylandOutput()
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [](const QScreen *screen) {
+        return screen->name().startsWith(QLatin1String("XWAYLAND"));
+    });
+}
+
+} // namespace
 
 X11Connection::Listening::Listening(X11Connection &connection, Listener listener)
     : m_connection(connection)
@@ -43,7 +57,7 @@ X11Connection::X11Connection(xcb_connection_t *xcb)
     m_compositorSelection = atom("_NET_WM_CM_S0");
 
     const auto xwayland = adopt(xcb_query_extension_reply(m_xcb, xwaylandCookie, nullptr));
-    m_isXWayland = xwayland && xwayland->present;
+    m_isXWayland = (xwayland && xwayland->present) || hasXWaylandOutput();
 
     const xcb_query_extension_reply_t *input = xcb_get_extension_data(m_xcb, &xcb_input_id);
     if (input && input->present) {
@@ -67,6 +81,24 @@ xcb_atom_t X11Connection::atom(const char *name) const
     const auto cookie = xcb_intern_atom(m_xcb, 0, static_cast<uint16_t>(std::strlen(name)), name);
     const auto reply = adopt(xcb_intern_atom_reply(m_xcb, cookie, nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+void X11Connection::selectRawEvents(uint16_t type, int change)
+{
+    if (m_inputOpcode == 0)
+        return;
+    m_rawEvents[type] += change;
+    struct
+    {
+        xcb_input_event_mask_t head;
+        uint32_t mask;
+    } selection{.head = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1}, .mask = 0};
+    for (auto it = m_rawEvents.cbegin(); it != m_rawEvents.cend(); ++it) {
+        if (it.value() > 0)
+            selection.mask |= 1u << it.key();
+    }
+    xcb_input_xi_select_events(m_xcb, m_root, 1, &selection.head);
+    flush();
 }
 
 void X11Connection::watchCompositor()

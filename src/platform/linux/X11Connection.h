@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <QAbstractNativeEventFilter>
+#include <QHash>
 #include <QList>
 
 #include <functional>
@@ -46,6 +47,8 @@ public:
     bool isXWayland() const { return m_isXWayland; }
     /// Major opcode of the X Input extension, version 2.2 or later; 0 when it is absent.
     uint8_t inputOpcode() const { return m_inputOpcode; }
+    /// Counts who wants raw input events of a type: the server keeps one selection for all of them.
+    void selectRawEvents(uint16_t type, int change);
     /// Somebody composites the screen, so that transparent pixels are transparent.
     bool isComposited() const { return m_isComposited; }
     void observeComposited(std::function<void()> changed) { m_compositedChanged = std::move(changed); }
@@ -66,6 +69,7 @@ private:
     xcb_atom_t m_compositorSelection = XCB_ATOM_NONE;
     bool m_isComposited = false;
     std::function<void()> m_compositedChanged;
+    QHash<uint16_t, int> m_rawEvents;
     QList<Listening *> m_listenings;
 };
 

@@ -92,6 +92,9 @@ void X11OverlaySurface::orderFront()
 {
     m_sensor.show();
     m_window.show();
+    // A window without content does not exist for a Wayland compositor, and nothing is drawn yet.
+    if (m_connection.isXWayland())
+        xcb_clear_area(m_connection, 0, static_cast<xcb_window_t>(m_window.winId()), 0, 0, 0, 0);
     raise();
 }
 
@@ -108,10 +111,15 @@ void X11OverlaySurface::setOutlines(const std::vector<SurfaceOutline> &outlines)
         return;
     m_outlines = outlines;
     applyShape();
+    // Nobody can see what is typed into a surface that shows nothing.
+    if (m_outlines.empty())
+        m_keyboard.giveBack();
 }
 
 void X11OverlaySurface::setSensor(const Rect &strip)
 {
+    m_strip = strip;
+    applyShape();
     const QRectF frame = unflipped(strip, primaryFrame());
     const double ratio = m_window.devicePixelRatio();
     // Screens keep their origin in pixels; only what lies within a screen is scaled.
@@ -123,6 +131,7 @@ void X11OverlaySurface::setSensor(const Rect &strip)
 
 void X11OverlaySurface::setWantsKeyboard(bool wants)
 {
+    m_wantsKeyboard = wants;
     if (wants)
         m_keyboard.take();
     else
@@ -178,7 +187,11 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
         return false;
     if (const auto step = m_touchpad.read(event, !m_gesture.isUnderWay()))
         return m_gesture.step(step->deltaX, step->deltaY);
-    const bool onSensor = event.event == m_sensor.id();
+    // Qt takes a while to tell the content that the keyboard has gone elsewhere; until then a field thinks it
+    // has it.
+    if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
+        m_keyboard.take();
+    const bool onSensor = event.event == m_sensor.id() || m_outlines.empty();
     if (onSensor && event.detail == XCB_BUTTON_INDEX_1) {
         if (event.event_type == XCB_INPUT_BUTTON_PRESS) {
             m_pressed = true;
@@ -206,11 +219,14 @@ void X11OverlaySurface::pointerWent()
 {
     if (!m_over)
         return;
-    // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving.
-    const auto reply = adopt(
-        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
-    if (reply && isOurs(reply->child))
-        return;
+    // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving. XWayland knows
+    // no better than this event: it would answer with the last place it has seen.
+    if (!m_connection.isXWayland()) {
+        const auto reply = adopt(
+            xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
+        if (reply && isOurs(reply->child))
+            return;
+    }
     m_over = false;
     m_overChanged(false);
     if (m_events.exited)
@@ -236,13 +252,17 @@ void X11OverlaySurface::applyShape()
         if (outline.takesPointer)
             felt.insert(felt.end(), rows.begin(), rows.end());
     }
+    // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip itself.
+    if (m_connection.isXWayland() && m_outlines.empty())
+        felt = outlineRows({.frame = m_strip}, m_extent, m_window.devicePixelRatio());
     const auto window = static_cast<xcb_window_t>(m_window.winId());
     const auto set = [&](xcb_shape_sk_t kind, const std::vector<xcb_rectangle_t> &rows) {
         xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0,
                              static_cast<uint32_t>(rows.size()), rows.data());
     };
     // A compositor blends what is transparent; without one only the shape keeps it from being black.
-    if (m_connection.isComposited() && !drawn.empty())
+    const bool blended = m_connection.isXWayland() || (m_connection.isComposited() && !drawn.empty());
+    if (blended)
         xcb_shape_mask(m_connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0, XCB_PIXMAP_NONE);
     else
         set(XCB_SHAPE_SK_BOUNDING, drawn);

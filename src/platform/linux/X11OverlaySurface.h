@@ -57,9 +57,11 @@ private:
     TouchpadScroll m_touchpad;
     ScrollGesture m_gesture;
     Rect m_extent;
+    Rect m_strip;
     std::vector<SurfaceOutline> m_outlines;
     bool m_over = false;
     bool m_pressed = false;
+    bool m_wantsKeyboard = false;
     X11Connection::Listening m_listening;
 };
 

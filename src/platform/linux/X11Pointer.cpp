@@ -2,9 +2,8 @@
 
 #include "platform/linux/QtScreens.h"
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11RawEvents.h"
 #include "platform/linux/XcbReply.h"
-
-#include <xcb/xinput.h>
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -38,40 +37,16 @@ private:
     std::function<void()> m_happened;
 };
 
-/// Raw motion of all devices, which the server reports wherever the pointer is and whoever has grabbed it.
 class RawMotion : public EventMonitor
 {
 public:
     RawMotion(X11Connection &connection, std::function<void()> moved)
-        : m_connection(connection)
-        , m_listening(connection, [opcode = connection.inputOpcode(),
-                                   moved = std::move(moved)](const xcb_generic_event_t &event) {
-            const auto &generic = reinterpret_cast<const xcb_ge_generic_event_t &>(event);
-            if ((event.response_type & ~0x80) != XCB_GE_GENERIC || generic.extension != opcode ||
-                generic.event_type != XCB_INPUT_RAW_MOTION)
-                return false;
-            moved();
-            return true;
-        })
+        : m_events(connection, XCB_INPUT_RAW_MOTION, [moved = std::move(moved)](const auto &) { moved(); })
     {
-        select(XCB_INPUT_XI_EVENT_MASK_RAW_MOTION);
     }
-    ~RawMotion() override { select(static_cast<xcb_input_xi_event_mask_t>(0)); }
 
 private:
-    void select(xcb_input_xi_event_mask_t events)
-    {
-        struct
-        {
-            xcb_input_event_mask_t head;
-            uint32_t mask;
-        } selection{.head = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1}, .mask = events};
-        xcb_input_xi_select_events(m_connection, m_connection.root(), 1, &selection.head);
-        m_connection.flush();
-    }
-
-    X11Connection &m_connection;
-    X11Connection::Listening m_listening;
+    X11RawEvents m_events;
 };
 
 } // namespace
