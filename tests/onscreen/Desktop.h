@@ -1,0 +1,27 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace brimlight::onscreen {
+
+/// What runs beside the program.
+struct Desktop
+{
+    /// The name of the executable; null for none.
+    const char *windowManager = nullptr;
+    bool isComposited = false;
+};
+
+std::ostream &operator<<(std::ostream &stream, const Desktop &desktop);
+/// As the last part of a test's name.
+std::string nameOf(const testing::TestParamInfo<Desktop> &info);
+
+inline constexpr Desktop windowManagers[] = {{.windowManager = "openbox"}, {.windowManager = "icewm"}};
+inline constexpr Desktop withAndWithoutCompositor[] = {{.windowManager = "openbox"},
+                                                       {.windowManager = "openbox", .isComposited = true},
+                                                       {.windowManager = "icewm"},
+                                                       {.windowManager = "icewm", .isComposited = true}};
+
+} // namespace brimlight::onscreen

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Waiting.h"
+#include "XClient.h"
+
+namespace brimlight::onscreen {
+
+/// The hand of a person on mouse, touchpad and keyboard.
+class Hand
+{
+public:
+    explicit Hand(const XClient &x)
+        : m_x(x)
+    {
+    }
+
+    /// The server waits for `after` before it carries the motion out: what must be quick does not depend on
+    /// how busy the test is.
+    void moveTo(QPoint point, milliseconds after = milliseconds(0)) const;
+    void clickAt(QPoint point) const;
+    /// Wheel steps without a pause: button 4 is up, 5 down, 6 left, 7 right.
+    void scroll(uint8_t button, int steps) const;
+    void typeKey(uint32_t keysym) const;
+
+    /// From now on the device that this hand moves passes for a touchpad.
+    void useTouchpad() const;
+
+private:
+    void fake(uint8_t type, uint8_t detail, QPoint point = {}, milliseconds after = milliseconds(0)) const;
+    uint8_t keycode(uint32_t keysym) const;
+
+    const XClient &m_x;
+};
+
+} // namespace brimlight::onscreen

@@ -1,0 +1,105 @@
+#include "OnScreenTest.h"
+
+#include <algorithm>
+
+namespace brimlight::onscreen {
+namespace {
+
+class Hover : public OnEachDesktop
+{
+protected:
+    static constexpr milliseconds hoverDelay{500};
+    static constexpr milliseconds collapseDelay{120};
+
+    std::optional<QRect> openByRest()
+    {
+        hand.moveTo(onStrip());
+        return waitForOpen();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(OnScreen, Hover, testing::ValuesIn(windowManagers), nameOf);
+
+TEST_P(Hover, RestOpensAfterTheHoverDelay)
+{
+    const auto entered = Clock::now();
+    const auto frame = openByRest();
+    ASSERT_TRUE(frame);
+    EXPECT_GE(Clock::now() - entered, hoverDelay);
+    EXPECT_EQ(frame->top(), 0);
+    EXPECT_EQ(frame->width(), 536);
+    EXPECT_NEAR(frame->center().x(), x.size().width() / 2, 1);
+}
+
+TEST_P(Hover, TheUpperEdgeOfTheScreenIsPartOfTheStrip)
+{
+    hand.moveTo({strip.center().x(), 0});
+    EXPECT_TRUE(waitForOpen());
+}
+
+TEST_P(Hover, GrazeShorterThanTheDelayDoesNotOpen)
+{
+    hand.moveTo(onStrip());
+    hand.moveTo(away(), milliseconds(200));
+    EXPECT_TRUE(staysShut());
+}
+
+TEST_P(Hover, PointerBesideTheStripDoesNotOpen)
+{
+    hand.moveTo({strip.right() + 2, 10});
+    EXPECT_TRUE(staysShut());
+}
+
+TEST_P(Hover, LeavingClosesAfterTheCollapseDelay)
+{
+    auto quickest = patience;
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_TRUE(openByRest());
+        const auto left = Clock::now();
+        hand.moveTo(away());
+        ASSERT_TRUE(waitForClose());
+        quickest = std::min(quickest, std::chrono::floor<milliseconds>(Clock::now() - left));
+        EXPECT_GE(quickest, collapseDelay);
+    }
+    // Sooner than the poll that is only there for want of events would notice on its own.
+    EXPECT_LT(quickest, collapseDelay + milliseconds(150));
+}
+
+TEST_P(Hover, ComingBackWithinTheCollapseDelayKeepsItOpen)
+{
+    ASSERT_TRUE(openByRest());
+    hand.moveTo(away());
+    hand.moveTo(onStrip(), milliseconds(60));
+    EXPECT_TRUE(staysOpen());
+}
+
+TEST_P(Hover, AFewPixelsOutsideStillCountAsInside)
+{
+    const auto frame = openByRest();
+    ASSERT_TRUE(frame);
+    hand.moveTo({frame->center().x(), frame->bottom() + 5});
+    EXPECT_TRUE(staysOpen());
+    hand.moveTo({frame->center().x(), frame->bottom() + 8});
+    EXPECT_TRUE(waitForClose());
+}
+
+TEST_P(Hover, MovingAboutInTheOpenPanelKeepsItOpen)
+{
+    const auto frame = openByRest();
+    ASSERT_TRUE(frame);
+    for (const QPoint point :
+         {frame->center(), frame->topLeft() + QPoint(3, 3), frame->bottomRight() - QPoint(40, 4)})
+        hand.moveTo(point, milliseconds(100));
+    EXPECT_TRUE(staysOpen());
+}
+
+TEST_P(Hover, OpensAgainAfterItHasClosed)
+{
+    ASSERT_TRUE(openByRest());
+    hand.moveTo(away());
+    ASSERT_TRUE(waitForClose());
+    EXPECT_TRUE(openByRest());
+}
+
+} // namespace
+} // namespace brimlight::onscreen

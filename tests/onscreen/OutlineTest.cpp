@@ -1,0 +1,110 @@
+#include "OnScreenTest.h"
+
+#include <cmath>
+
+namespace brimlight::onscreen {
+namespace {
+
+/// What is seen of the panel, pixel by pixel, with a compositor and without.
+class Outline : public OnEachDesktop
+{
+protected:
+    /// All that the program's window can cover, and more.
+    QRect surroundings() const { return {0, 0, x.size().width(), 800}; }
+
+    bool nothingIsSeen() const { return changed(bare, surroundings()) == 0; }
+
+    /// The panel covers its outline, square above and rounded below, and nothing else.
+    bool outlineIsSeen(const QRect &frame) const
+    {
+        const QImage now = x.screenshot();
+        const auto differs = [&](int column, int row) {
+            return now.pixel(column, row) != bare.pixel(column, row);
+        };
+        int missing = 0;
+        for (int row = 0; row < surroundings().height(); ++row) {
+            for (int column = 0; column < now.width(); ++column) {
+                switch (coverage(QPoint(column, row), frame)) {
+                case Coverage::none:
+                    if (differs(column, row))
+                        return false;
+                    break;
+                case Coverage::full:
+                    missing += !differs(column, row);
+                    break;
+                case Coverage::partial:
+                    break;
+                }
+            }
+        }
+        // A pixel may have the wallpaper's colour by chance.
+        return missing < frame.width() * frame.height() / 200;
+    }
+
+private:
+    enum class Coverage { none, partial, full };
+
+    static Coverage coverage(QPoint point, const QRect &frame)
+    {
+        if (!frame.contains(point))
+            return Coverage::none;
+        constexpr double radius = 32;
+        // The quadratic corner is the curve sqrt(x / r) + sqrt(y / r) = 1, both counted from the corner.
+        const int fromSide = std::min(point.x() - frame.left(), frame.right() - point.x());
+        const int fromBottom = frame.bottom() - point.y();
+        if (std::sqrt(fromSide / radius) + std::sqrt(fromBottom / radius) >= 1)
+            return Coverage::full;
+        if (std::sqrt((fromSide + 1) / radius) + std::sqrt((fromBottom + 1) / radius) <= 1)
+            return Coverage::none;
+        return Coverage::partial;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(OnScreen, Outline, testing::ValuesIn(withAndWithoutCompositor), nameOf);
+
+TEST_P(Outline, NothingIsSeenWhileCollapsed)
+{
+    EXPECT_TRUE(nothingIsSeen());
+    hand.moveTo(onStrip());
+    EXPECT_TRUE(nothingIsSeen());
+}
+
+TEST_P(Outline, TheOpenPanelIsSeenWithinItsRoundedOutline)
+{
+    const auto frame = openByTap();
+    ASSERT_TRUE(frame);
+    hand.moveTo(away());
+    EXPECT_TRUE(waitUntil([&] { return outlineIsSeen(*frame); }));
+}
+
+TEST_P(Outline, NothingIsLeftAfterClosing)
+{
+    ASSERT_TRUE(openByTap());
+    hand.clickAt(onStrip());
+    ASSERT_TRUE(waitForClose());
+    EXPECT_TRUE(waitUntil([&] { return nothingIsSeen(); }));
+}
+
+TEST_P(Outline, HoldsWhenACompositorComesOrGoes)
+{
+    const auto toggle = [this] {
+        if (x.isComposited())
+            session.stopCompositor();
+        else
+            session.startCompositor();
+    };
+    toggle();
+    EXPECT_TRUE(waitUntil([&] { return nothingIsSeen(); }));
+    const auto frame = openByTap();
+    ASSERT_TRUE(frame);
+    hand.moveTo(away());
+    EXPECT_TRUE(waitUntil([&] { return outlineIsSeen(*frame); }));
+    toggle();
+    EXPECT_TRUE(waitUntil([&] { return outlineIsSeen(*frame); }));
+    hand.clickAt(onStrip());
+    ASSERT_TRUE(waitForClose());
+    EXPECT_TRUE(waitUntil([&] { return nothingIsSeen(); }));
+}
+
+} // namespace
+} // namespace brimlight::onscreen
