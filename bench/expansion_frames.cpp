@@ -2,25 +2,27 @@
 //
 //   expansion_frames [openings]          20 by default
 //
-// A frame counts from the moment the window is told to draw (an update request or an exposure) until it has been
-// handed to the display server. It has three parts: preparing (delayed input, layout, synchronisation of the scene),
-// rendering, and presenting, which is the copy into shared memory and the request to show it, not the server's own
-// work. What the animation costs outside of frames is in the processor time. One "name value" a line on the standard
-// output, times in milliseconds.
+// A frame counts from the moment the window is told to draw (an update request or an exposure) until it has
+// been handed to the display server. It has three parts: preparing (delayed input, layout, synchronisation of
+// the scene), rendering, and presenting, which is the copy into shared memory and the request to show it, not
+// the server's own work. What the animation costs outside of frames is in the processor time. One "name
+// value" a line on the standard output, times in milliseconds.
 
 #include "app/AppDelegate.h"
 
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QTimer>
 
 #include <algorithm>
-#include <array>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace brimlight {
@@ -34,10 +36,18 @@ struct Frame
     Milliseconds prepare{};
     Milliseconds render{};
     Milliseconds present{};
+    Milliseconds processor{};
     bool exposed = false;
 
     Milliseconds whole() const { return prepare + render + present; }
 };
+
+Milliseconds processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
 
 /// Times the frames of a window that is drawn on the main thread.
 class FrameWatch : public QObject
@@ -46,11 +56,14 @@ public:
     explicit FrameWatch(QQuickWindow &window)
     {
         window.installEventFilter(this);
-        connect(&window, &QQuickWindow::beforeRendering, this, [this] { m_rendering = Clock::now(); },
-                Qt::DirectConnection);
-        connect(&window, &QQuickWindow::afterRendering, this, [this] { m_rendered = Clock::now(); },
-                Qt::DirectConnection);
-        connect(&window, &QQuickWindow::frameSwapped, this, [this] { swapped(); }, Qt::DirectConnection);
+        connect(
+            &window, &QQuickWindow::beforeRendering, this, [this] { m_rendering = Clock::now(); },
+            Qt::DirectConnection);
+        connect(
+            &window, &QQuickWindow::afterRendering, this, [this] { m_rendered = Clock::now(); },
+            Qt::DirectConnection);
+        connect(
+            &window, &QQuickWindow::frameSwapped, this, [this] { swapped(); }, Qt::DirectConnection);
     }
 
     void start() { m_recording = true; }
@@ -64,6 +77,7 @@ public:
     {
         if (event->type() == QEvent::UpdateRequest || event->type() == QEvent::Expose) {
             m_asked = Clock::now();
+            m_processorBefore = processorTime();
             m_exposed = event->type() == QEvent::Expose;
         }
         return false;
@@ -76,6 +90,7 @@ private:
             m_frames.push_back({.prepare = m_rendering - m_asked,
                                 .render = m_rendered - m_rendering,
                                 .present = Clock::now() - m_rendered,
+                                .processor = processorTime() - m_processorBefore,
                                 .exposed = m_exposed});
     }
 
@@ -83,6 +98,7 @@ private:
     Clock::time_point m_asked;
     Clock::time_point m_rendering;
     Clock::time_point m_rendered;
+    Milliseconds m_processorBefore{};
     bool m_exposed = false;
     bool m_recording = false;
 };
@@ -100,13 +116,6 @@ void spinWhileAnimating(const NotchPanel &panel)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-Milliseconds processorTime()
-{
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
-}
-
 double quantile(std::vector<double> values, double share)
 {
     if (values.empty())
@@ -116,21 +125,20 @@ double quantile(std::vector<double> values, double share)
     return values[std::clamp<size_t>(rank, 1, values.size()) - 1];
 }
 
-void print(const char *name, double value)
+void print(const std::string &name, double value)
 {
-    std::printf("%s %.3f\n", name, value);
+    std::printf("%s %.3f\n", name.c_str(), value);
 }
 
 template<typename Part>
-void printFrames(const char *name, const std::vector<Frame> &frames, Part part)
+void printFrames(const std::string &name, const std::vector<Frame> &frames, Part part)
 {
     std::vector<double> times;
     for (const Frame &frame : frames)
         times.push_back(std::invoke(part, frame).count());
-    const QByteArray prefix(name);
-    print(prefix + "_median", quantile(times, 0.5));
-    print(prefix + "_p95", quantile(times, 0.95));
-    print(prefix + "_max", quantile(times, 1));
+    print(name + "_median", quantile(times, 0.5));
+    print(name + "_p95", quantile(times, 0.95));
+    print(name + "_max", quantile(times, 1));
 }
 
 int measure(int openings)
@@ -187,14 +195,16 @@ int measure(int openings)
     print("openings", openings);
     print("frames_per_opening", static_cast<double>(frames.size()) / openings);
     print("exposures_per_opening",
-          static_cast<double>(std::count_if(frames.begin(), frames.end(), [](const Frame &f) { return f.exposed; })) /
+          static_cast<double>(
+              std::count_if(frames.begin(), frames.end(), [](const Frame &f) { return f.exposed; })) /
               openings);
     printFrames("frame", frames, &Frame::whole);
     printFrames("prepare", frames, &Frame::prepare);
     printFrames("render", frames, &Frame::render);
     printFrames("present", frames, &Frame::present);
-    print("until_drawn_median", quantile(response, 0.5));
-    print("processor_per_opening_median", quantile(processor, 0.5));
+    printFrames("processor", frames, &Frame::processor);
+    print("opening_until_drawn", quantile(response, 0.5));
+    print("opening_processor", quantile(processor, 0.5));
     return 0;
 }
 

@@ -26,7 +26,8 @@ void setPreference(benchmark::State &state)
     const QTemporaryDir folder;
     JsonUserDefaults defaults(folder.filePath(QStringLiteral("Brimlight/defaults.json")));
     for (int i = 0; i < state.range(0); ++i)
-        defaults.setValue(preference(i), i % 2 == 0 ? UserDefaults::Value(0.5 * i) : UserDefaults::Value(preference(i)));
+        defaults.setValue(preference(i),
+                          i % 2 == 0 ? UserDefaults::Value(0.5 * i) : UserDefaults::Value(preference(i)));
     double value = 0;
     for (auto _ : state)
         defaults.setValue(preference(0), ++value);

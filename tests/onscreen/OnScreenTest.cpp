@@ -81,6 +81,17 @@ std::optional<QRect> OnScreenTest::openByTap()
     return frame;
 }
 
+void OnScreenTest::expectClicksReach(Victim &victim, const std::vector<QPoint> &points) const
+{
+    std::vector<QPoint> clicked;
+    for (const QPoint point : points) {
+        hand.clickAt(point);
+        clicked.push_back(point);
+        EXPECT_TRUE(waitUntil([&] { return victim.presses().size() >= clicked.size(); }));
+        EXPECT_EQ(victim.presses(), clicked);
+    }
+}
+
 double OnScreenTest::changed(const QImage &before, const QRect &area) const
 {
     const QImage now = x.screenshot();

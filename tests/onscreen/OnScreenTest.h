@@ -3,6 +3,7 @@
 #include "Desktop.h"
 #include "Hand.h"
 #include "Panel.h"
+#include "Victim.h"
 #include "XSession.h"
 
 namespace brimlight::onscreen {
@@ -32,6 +33,9 @@ protected:
     bool staysOpen() { return panel->keepsSilentAbout(QString::fromLatin1(closed)); }
     /// Opens and pins it; returns when it is seen.
     std::optional<QRect> openByTap();
+
+    /// Clicks at each point and expects the window below to be told of each.
+    void expectClicksReach(Victim &victim, const std::vector<QPoint> &points) const;
 
     /// The share of the pixels of `area` that are not as in `before`.
     double changed(const QImage &before, const QRect &area) const;

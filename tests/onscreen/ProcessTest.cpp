@@ -70,21 +70,41 @@ TEST_F(Process, SaysNothingUnlessDebugging)
     EXPECT_EQ(panel->lines(), QStringList());
 }
 
-/// Environment variables that tell of a Wayland session, which has an X display beside it.
-class WaylandSession : public Process,
-                       public testing::WithParamInterface<std::pair<const char *, const char *>>
+/// A variable of the environment; a null value stands for its absence.
+struct EnvironmentCase
+{
+    const char *name;
+    const char *variable;
+    const char *value;
+};
+
+struct FileCase
+{
+    const char *name;
+    const char *content;
+};
+
+template<typename Case>
+std::string caseName(const testing::TestParamInfo<Case> &info)
+{
+    return info.param.name;
+}
+
+/// A Wayland session that has an X display beside it.
+class WaylandSession : public Process, public testing::WithParamInterface<EnvironmentCase>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Process, WaylandSession,
-                         testing::Values(std::pair("QT_QPA_PLATFORM", "wayland"),
-                                         std::pair("QT_QPA_PLATFORM", "wayland;xcb"),
-                                         std::pair("WAYLAND_DISPLAY", "wayland-0"),
-                                         std::pair("XDG_SESSION_TYPE", "wayland")));
+constexpr EnvironmentCase waylandSessions[] = {{"ItsPlatform", "QT_QPA_PLATFORM", "wayland"},
+                                               {"ItsPlatformFirst", "QT_QPA_PLATFORM", "wayland;xcb"},
+                                               {"ItsDisplay", "WAYLAND_DISPLAY", "wayland-0"},
+                                               {"ItsSessionType", "XDG_SESSION_TYPE", "wayland"}};
+INSTANTIATE_TEST_SUITE_P(Process, WaylandSession, testing::ValuesIn(waylandSessions),
+                         caseName<EnvironmentCase>);
 
 TEST_P(WaylandSession, RunsOnX11)
 {
-    session.setVariable(GetParam().first, GetParam().second);
+    session.setVariable(GetParam().variable, GetParam().value);
     startPanel();
     EXPECT_TRUE(openByTap());
 }
@@ -98,29 +118,30 @@ TEST_F(Process, EverythingIsTwiceAsLargeOnADenseScreen)
     bare = x.screenshot();
     hand.moveTo({middle + 199, 63});
     EXPECT_TRUE(waitUntil([&] { return isSeen(QRect(middle - 536, 0, 2 * 536, 2 * 300), bare); }));
-    EXPECT_EQ(changed(bare, QRect(0, 0, middle - 536 - 2, 600)), 0);
-    EXPECT_EQ(changed(bare, QRect(middle + 536 + 2, 0, middle - 536 - 2, 600)), 0);
+    const QRect left(0, 0, middle - 536, 600);
+    EXPECT_TRUE(waitUntil([&] { return changed(bare, left) == 0; }));
+    EXPECT_TRUE(waitUntil([&] { return changed(bare, left.translated(middle + 536, 0)) == 0; }));
 }
 
-/// Displays that cannot be reached; null stands for an absent variable.
-class NoDisplay : public testing::TestWithParam<std::pair<const char *, const char *>>
+class NoDisplay : public testing::TestWithParam<EnvironmentCase>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Process, NoDisplay,
-                         testing::Values(std::pair("DISPLAY", nullptr), std::pair("DISPLAY", ""),
-                                         std::pair("DISPLAY", "no-such-display"),
-                                         std::pair("WAYLAND_DISPLAY", "wayland-0"),
-                                         std::pair("QT_QPA_PLATFORM", "wayland"),
-                                         std::pair("QT_QPA_PLATFORM", "xcb")));
+constexpr EnvironmentCase unreachable[] = {{"Unset", "DISPLAY", nullptr},
+                                           {"Empty", "DISPLAY", ""},
+                                           {"NoneOfThatName", "DISPLAY", "no-such-display"},
+                                           {"WaylandOnly", "WAYLAND_DISPLAY", "wayland-0"},
+                                           {"WaylandPlatform", "QT_QPA_PLATFORM", "wayland"},
+                                           {"XPlatform", "QT_QPA_PLATFORM", "xcb"}};
+INSTANTIATE_TEST_SUITE_P(Process, NoDisplay, testing::ValuesIn(unreachable), caseName<EnvironmentCase>);
 
 TEST_P(NoDisplay, IsOneLineAndStatusOne)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto &variable : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
         environment.remove(variable);
-    if (GetParam().second)
-        environment.insert(QString::fromLatin1(GetParam().first), QString::fromLatin1(GetParam().second));
+    if (GetParam().value)
+        environment.insert(QString::fromLatin1(GetParam().variable), QString::fromLatin1(GetParam().value));
     Panel program(QStringLiteral(BRIMLIGHT_PROGRAM), environment);
     ASSERT_TRUE(program.waitForExit());
     EXPECT_EQ(program.process().exitStatus(), QProcess::NormalExit);
@@ -129,20 +150,22 @@ TEST_P(NoDisplay, IsOneLineAndStatusOne)
     EXPECT_TRUE(program.lines().value(0).startsWith(u"brimlight: "_s));
 }
 
-/// Files that hold no settings.
-class UnusableDefaults : public Process, public testing::WithParamInterface<const char *>
+/// Files from which no settings can be had.
+class UnusableDefaults : public Process, public testing::WithParamInterface<FileCase>
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(Process, UnusableDefaults,
-                         testing::Values("", R"({"brimlight.hoverDelay": 0.)",
-                                         R"(["brimlight.hoverDelay", 3600])", "\xff\xfe settings",
-                                         R"({"brimlight.hoverDelay": "3600"})"));
+constexpr FileCase unusableFiles[] = {{"Empty", ""},
+                                      {"CutOff", R"({"brimlight.hoverDelay": 0.)"},
+                                      {"AList", R"(["brimlight.hoverDelay", 3600])"},
+                                      {"NoText", "\xff\xfe settings"},
+                                      {"OfTheWrongType", R"({"brimlight.hoverDelay": "3600"})"}};
+INSTANTIATE_TEST_SUITE_P(Process, UnusableDefaults, testing::ValuesIn(unusableFiles), caseName<FileCase>);
 
 TEST_P(UnusableDefaults, AreLeftAloneAndTheProgramWorks)
 {
     const QString name = u"Brimlight/defaults.json"_s;
-    session.writeConfigFile(name, GetParam());
+    session.writeConfigFile(name, GetParam().content);
     startPanel();
     hand.moveTo(onStrip());
     EXPECT_TRUE(waitForOpen());
@@ -151,7 +174,7 @@ TEST_P(UnusableDefaults, AreLeftAloneAndTheProgramWorks)
     panel->end();
     QFile file(session.configFile(name));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), QByteArray(GetParam()));
+    EXPECT_EQ(file.readAll(), QByteArray(GetParam().content));
     panel.reset();
 }
 

@@ -1,5 +1,4 @@
 #include "OnScreenTest.h"
-#include "Victim.h"
 
 #include <algorithm>
 

@@ -219,11 +219,11 @@ void X11OverlaySurface::pointerWent()
 {
     if (!m_over)
         return;
-    // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving. XWayland knows
-    // no better than this event: it would answer with the last place it has seen.
+    // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving. XWayland
+    // knows no better than this event: it would answer with the last place it has seen.
     if (!m_connection.isXWayland()) {
-        const auto reply = adopt(
-            xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
+        const auto reply = adopt(xcb_query_pointer_reply(
+            m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
         if (reply && isOurs(reply->child))
             return;
     }
@@ -252,7 +252,8 @@ void X11OverlaySurface::applyShape()
         if (outline.takesPointer)
             felt.insert(felt.end(), rows.begin(), rows.end());
     }
-    // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip itself.
+    // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip
+    // itself.
     if (m_connection.isXWayland() && m_outlines.empty())
         felt = outlineRows({.frame = m_strip}, m_extent, m_window.devicePixelRatio());
     const auto window = static_cast<xcb_window_t>(m_window.winId());
