@@ -32,6 +32,7 @@ void OnScreenTest::keepPicture()
 void OnScreenTest::startPanel()
 {
     startPanel(QStringLiteral(BRIMLIGHT_PROGRAM));
+    ASSERT_TRUE(panel && panel->waitForLine(u"^Notch panel ordered front "_s));
 }
 
 void OnScreenTest::startPanel(const QString &program)

@@ -88,5 +88,75 @@ TEST_P(Stacking, StaysOpenWhenTheWorkspaceIsSwitched)
     EXPECT_TRUE(isSeen(*frame, bare));
 }
 
+/// A window manager that restacks its windows above everything else, as some do; the test plays it.
+class Restacking : public OnScreenTest
+{
+protected:
+    Restacking()
+        : OnScreenTest(Desktop{})
+    {
+    }
+
+    void SetUp() override
+    {
+        startPanel();
+        const QSize size = x.size();
+        const uint32_t outOfCare = 1;
+        xcb_create_window(x, XCB_COPY_FROM_PARENT, m_cover, x.root(), 0, 0,
+                          static_cast<uint16_t>(size.width()), static_cast<uint16_t>(size.height()), 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT,
+                          &outOfCare);
+        xcb_map_window(x, m_cover);
+        restack();
+    }
+
+    void restack() const
+    {
+        const uint32_t above = XCB_STACK_MODE_ABOVE;
+        xcb_configure_window(x, m_cover, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+        x.sync();
+    }
+
+    void announce() const
+    {
+        xcb_change_property(x, XCB_PROP_MODE_REPLACE, x.root(), x.atom("_NET_CLIENT_LIST_STACKING"),
+                            XCB_ATOM_WINDOW, 32, 1, &m_cover);
+        x.sync();
+    }
+
+    /// Both windows of the program are above the cover.
+    bool isAbove() const
+    {
+        const auto windows = x.windows();
+        return windows.size() > 2 && windows[windows.size() - 3].id == m_cover;
+    }
+
+private:
+    xcb_window_t m_cover = xcb_generate_id(x);
+};
+
+TEST_F(Restacking, ThatIsAnnouncedBringsThePanelUpAgain)
+{
+    ASSERT_FALSE(isAbove());
+    announce();
+    EXPECT_TRUE(waitUntil([this] { return isAbove(); }));
+}
+
+TEST_F(Restacking, ThatIsAnnouncedTooEarlyBringsThePanelUpAgain)
+{
+    // On a busy machine the test itself may be late.
+    EXPECT_TRUE(waitUntil([this] {
+        announce();
+        const bool atOnce = waitUntil([this] { return isAbove(); });
+        restack();
+        return atOnce && waitUntil([this] { return isAbove(); }, milliseconds(400));
+    }));
+}
+
+TEST_F(Restacking, OfAScreenLockerLeavesItAboveThePanel)
+{
+    EXPECT_FALSE(waitUntil([this] { return isAbove(); }, bounded));
+}
+
 } // namespace
 } // namespace brimlight::onscreen
