@@ -12,6 +12,12 @@ if(BRIMLIGHT_SANITIZE)
     target_link_options(brimlight_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(BRIMLIGHT_FUZZ)
+    target_compile_options(brimlight_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+        -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    target_link_options(brimlight_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
 # brimlight_library(NAME SOURCES ... DEPENDS ...): one folder, one static library, headers by folder name.
 function(brimlight_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})

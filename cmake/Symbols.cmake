@@ -1,0 +1,25 @@
+# brimlight_symbols(TARGET TABLE): compiles every picture that the symbol table names into the resources of TARGET.
+
+set(BRIMLIGHT_SYMBOLS_DIR "/usr/share/bootstrap-icons/svg" CACHE PATH "Folder of the SVG pictures of symbols")
+
+function(brimlight_symbols target table)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${table}")
+    file(READ "${table}" text)
+    string(REGEX MATCHALL "{\"[^\"]+\",[ \n]*\"[^\"]+\"}" rows "${text}")
+    if(NOT rows)
+        message(FATAL_ERROR "No symbols in ${table}: it is read line by line for {\"name\", \"picture\"}.")
+    endif()
+    set(pictures)
+    foreach(row IN LISTS rows)
+        string(REGEX REPLACE "{\"[^\"]+\",[ \n]*\"([^\"]+)\"}" "\\1" picture "${row}")
+        set(file "${BRIMLIGHT_SYMBOLS_DIR}/${picture}.svg")
+        if(NOT EXISTS "${file}")
+            message(FATAL_ERROR "The symbol table maps ${row}, but ${file} does not exist. "
+                "Is the package bootstrap-icons installed?")
+        endif()
+        set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${picture}.svg")
+        list(APPEND pictures "${file}")
+    endforeach()
+    list(REMOVE_DUPLICATES pictures)
+    qt_add_resources(${target} symbols PREFIX "/brimlight/symbols" FILES ${pictures})
+endfunction()
