@@ -26,8 +26,20 @@ struct SurfaceOutline
     double bottomRadius = 0;
     /// False for what is seen but lets clicks through.
     bool takesPointer = true;
+    /// Asks for the desktop behind it to be blurred, where `SurfaceBackdrop::blurred` is on offer.
+    bool blursBehind = false;
 
     bool operator==(const SurfaceOutline &) const = default;
+};
+
+/// What a translucent pixel of the surface lets through.
+enum class SurfaceBackdrop {
+    /// Nothing: without a compositor it is black.
+    opaque,
+    /// The desktop as it is.
+    translucent,
+    /// The desktop, blurred within the outlines that ask for it.
+    blurred,
 };
 
 /// The one window of the program: borderless, above everything, on every workspace, never focused by itself.
@@ -46,6 +58,8 @@ public:
         std::function<void()> tapped;
         /// Returns true when the event is used up and must not reach the content.
         std::function<bool(const ScrollEvent &)> scrolled;
+        /// `backdrop` answers differently from now on.
+        std::function<void()> backdropChanged;
     };
 
     virtual ~OverlaySurface() = default;
@@ -57,6 +71,7 @@ public:
     virtual void setSensor(const Rect &strip) = 0;
     /// True while a text field of the content wants keys; false gives the keyboard back to where it was.
     virtual void setWantsKeyboard(bool wants) = 0;
+    virtual SurfaceBackdrop backdrop() const = 0;
 };
 
 } // namespace brimlight

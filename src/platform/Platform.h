@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Appearance.h"
 #include "platform/Folders.h"
 #include "platform/Log.h"
 #include "platform/Pointer.h"
@@ -20,6 +21,7 @@ struct Platform
     Screens &screens;
     Pointer &pointer;
     UnixSignals &unixSignals;
+    Appearance &appearance;
 };
 
 } // namespace brimlight

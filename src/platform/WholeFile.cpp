@@ -28,12 +28,20 @@ std::optional<QByteArray> WholeFile::read()
 
 bool WholeFile::write(const QByteArray &content)
 {
-    if (m_unusable && !keepAside())
+    m_error.clear();
+    if (m_unusable && !keepAside()) {
+        m_error = QStringLiteral("what was there before cannot be moved aside");
         return false;
-    if (!QDir().mkpath(QFileInfo(m_path).absolutePath()))
+    }
+    if (!QDir().mkpath(QFileInfo(m_path).absolutePath())) {
+        m_error = QStringLiteral("the folder cannot be made");
         return false;
+    }
     QSaveFile file(m_path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return true;
+    m_error = file.errorString();
+    return false;
 }
 
 bool WholeFile::keepAside()

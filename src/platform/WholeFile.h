@@ -30,11 +30,14 @@ public:
     /// Replaces the file atomically, creating its folder. False when that fails, or when an unusable file
     /// cannot be moved aside; the file then is what it was.
     bool write(const QByteArray &content);
+    /// Why the last `write()` failed, for the log.
+    const QString &errorString() const { return m_error; }
 
 private:
     bool keepAside();
 
     QString m_path;
+    QString m_error;
     bool m_unusable = false;
 };
 

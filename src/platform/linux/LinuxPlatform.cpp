@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/linux/DesktopAppearance.h"
 #include "platform/linux/JournalLog.h"
 #include "platform/linux/JsonUserDefaults.h"
 #include "platform/linux/PipeUnixSignals.h"
@@ -34,6 +35,7 @@ public:
     void setOutlines(const std::vector<SurfaceOutline> &) override {}
     void setSensor(const Rect &) override {}
     void setWantsKeyboard(bool) override {}
+    SurfaceBackdrop backdrop() const override { return SurfaceBackdrop::translucent; }
 
 private:
     QWindow &m_window;
@@ -51,6 +53,7 @@ struct LinuxPlatform::Backends
     QtScreens screens{thisMachinesPanel()};
     X11Pointer pointer{x11.get()};
     PipeUnixSignals unixSignals;
+    DesktopAppearance appearance{scheduler};
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -77,7 +80,7 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler, b.defaults, b.folders, b.log, b.screens, b.pointer, b.unixSignals};
+    return {b.scheduler, b.defaults, b.folders, b.log, b.screens, b.pointer, b.unixSignals, b.appearance};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

@@ -71,6 +71,7 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     , m_sensor(connection)
     , m_keyboard(connection, static_cast<xcb_window_t>(window.winId()))
     , m_stacking(connection, scheduler, [this] { raise(); })
+    , m_blur(connection, static_cast<xcb_window_t>(window.winId()), [this] { backdropMayHaveChanged(); })
     , m_touchpad(connection)
     , m_gesture(scheduler,
                 [this](const ScrollEvent &event) { return m_events.scrolled && m_events.scrolled(event); })
@@ -84,8 +85,12 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(m_window.winId()),
                         m_connection.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &type);
     m_window.installEventFilter(this);
-    m_connection.observeComposited([this] { applyShape(); });
+    m_connection.observeComposited([this] {
+        applyShape();
+        backdropMayHaveChanged();
+    });
     applyShape();
+    m_backdrop = backdrop();
 }
 
 void X11OverlaySurface::orderFront()
@@ -136,6 +141,26 @@ void X11OverlaySurface::setWantsKeyboard(bool wants)
         m_keyboard.take();
     else
         m_keyboard.giveBack();
+}
+
+SurfaceBackdrop X11OverlaySurface::backdrop() const
+{
+    // A Wayland compositor blends the windows of XWayland but does not read what they say about blur.
+    if (m_connection.isXWayland())
+        return SurfaceBackdrop::translucent;
+    if (!m_connection.isComposited())
+        return SurfaceBackdrop::opaque;
+    return m_blur.isOffered() ? SurfaceBackdrop::blurred : SurfaceBackdrop::translucent;
+}
+
+void X11OverlaySurface::backdropMayHaveChanged()
+{
+    const SurfaceBackdrop now = backdrop();
+    if (now == m_backdrop)
+        return;
+    m_backdrop = now;
+    if (m_events.backdropChanged)
+        m_events.backdropChanged();
 }
 
 bool X11OverlaySurface::eventFilter(QObject *watched, QEvent *event)
@@ -246,12 +271,16 @@ void X11OverlaySurface::applyShape()
 {
     std::vector<xcb_rectangle_t> drawn;
     std::vector<xcb_rectangle_t> felt;
+    std::vector<xcb_rectangle_t> blurred;
     for (const SurfaceOutline &outline : m_outlines) {
         const auto rows = outlineRows(outline, m_extent, m_window.devicePixelRatio());
         drawn.insert(drawn.end(), rows.begin(), rows.end());
         if (outline.takesPointer)
             felt.insert(felt.end(), rows.begin(), rows.end());
+        if (outline.blursBehind)
+            blurred.insert(blurred.end(), rows.begin(), rows.end());
     }
+    m_blur.setRegion(blurred);
     // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip
     // itself.
     if (m_connection.isXWayland() && m_outlines.empty())

@@ -3,6 +3,7 @@
 #include "platform/OverlaySurface.h"
 #include "platform/linux/ScrollGesture.h"
 #include "platform/linux/TouchpadScroll.h"
+#include "platform/linux/X11BlurBehind.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11KeyboardFocus.h"
 #include "platform/linux/X11Sensor.h"
@@ -34,6 +35,7 @@ public:
     void setOutlines(const std::vector<SurfaceOutline> &outlines) override;
     void setSensor(const Rect &strip) override;
     void setWantsKeyboard(bool wants) override;
+    SurfaceBackdrop backdrop() const override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -46,6 +48,7 @@ private:
     void pointerWent();
     void raise();
     void applyShape();
+    void backdropMayHaveChanged();
 
     QWindow &m_window;
     X11Connection &m_connection;
@@ -54,6 +57,8 @@ private:
     X11Sensor m_sensor;
     X11KeyboardFocus m_keyboard;
     X11Stacking m_stacking;
+    X11BlurBehind m_blur;
+    SurfaceBackdrop m_backdrop = SurfaceBackdrop::opaque;
     TouchpadScroll m_touchpad;
     ScrollGesture m_gesture;
     Rect m_extent;

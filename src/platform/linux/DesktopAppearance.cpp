@@ -1,0 +1,79 @@
+#include "platform/linux/DesktopAppearance.h"
+
+#include <QDBusMessage>
+
+namespace brimlight {
+namespace {
+
+QString portalService()
+{
+    return QStringLiteral("org.freedesktop.portal.Desktop");
+}
+
+QString portalPath()
+{
+    return QStringLiteral("/org/freedesktop/portal/desktop");
+}
+
+QString settingsInterface()
+{
+    return QStringLiteral("org.freedesktop.portal.Settings");
+}
+
+} // namespace
+
+DesktopAppearance::DesktopAppearance(Scheduler &scheduler, std::function<QDBusConnection()> bus)
+{
+    m_start = scheduler.after(startDelay, [this, bus = std::move(bus)] {
+        openBus(*this, bus, [this](const QDBusConnection &opened) { listen(opened); });
+    });
+}
+
+void DesktopAppearance::listen(QDBusConnection bus)
+{
+    if (!bus.isConnected())
+        return;
+    m_bus = bus;
+    // No sender is named: Qt would ask the bus for its owner and wait for the answer.
+    bus.connect({}, portalPath(), settingsInterface(), QStringLiteral("SettingChanged"), this,
+                SLOT(settingChanged(QString, QString, QDBusVariant)));
+    bus.connect({}, QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+                QStringLiteral("NameOwnerChanged"), {portalService()}, QStringLiteral("sss"), this,
+                SLOT(ownerChanged(QString, QString, QString)));
+    readAll();
+}
+
+void DesktopAppearance::readAll()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(portalService(), portalPath(), settingsInterface(),
+                                                       QStringLiteral("ReadAll"));
+    call << AppearanceWishes::groups();
+    callDBus(*m_bus, call, *this, [this](const std::optional<QVariantList> &reply) {
+        if (const auto values = portalValues(reply.value_or(QVariantList())))
+            take(AppearanceWishes::of(*values));
+    });
+}
+
+void DesktopAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value)
+{
+    AppearanceWishes wishes = m_wishes;
+    wishes.set(group, key, value.variant());
+    take(wishes);
+}
+
+void DesktopAppearance::ownerChanged(const QString &, const QString &, const QString &now)
+{
+    if (!now.isEmpty())
+        readAll();
+}
+
+void DesktopAppearance::take(const AppearanceWishes &wishes)
+{
+    if (wishes == m_wishes)
+        return;
+    m_wishes = wishes;
+    if (m_changed)
+        m_changed();
+}
+
+} // namespace brimlight

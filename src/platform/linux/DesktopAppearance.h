@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Appearance.h"
+#include "platform/Scheduler.h"
+#include "platform/linux/DBusCall.h"
+#include "platform/linux/PortalSettings.h"
+
+#include <QDBusVariant>
+#include <QObject>
+
+namespace brimlight {
+
+/// The settings of the desktop as its portal tells them. Without a bus or a portal nothing is reduced; a
+/// portal that comes later is asked then, and while one restarts its last word holds.
+///
+/// The bus is opened a little after the start: nothing that is drawn first depends on it.
+class DesktopAppearance : public QObject, public Appearance
+{
+    Q_OBJECT
+
+public:
+    static constexpr std::chrono::milliseconds startDelay{400};
+
+    explicit DesktopAppearance(Scheduler &scheduler, std::function<QDBusConnection()> bus = sessionBus);
+
+    bool reducesMotion() const override { return m_wishes.lessMotion(); }
+    bool reducesTransparency() const override { return m_wishes.lessTransparency(); }
+    void observeChanges(std::function<void()> changed) override { m_changed = std::move(changed); }
+
+private:
+    Q_SLOT void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+    Q_SLOT void ownerChanged(const QString &name, const QString &before, const QString &now);
+
+    void listen(QDBusConnection bus);
+    void readAll();
+    void take(const AppearanceWishes &wishes);
+
+    std::optional<QDBusConnection> m_bus;
+    AppearanceWishes m_wishes;
+    std::function<void()> m_changed;
+    std::unique_ptr<Scheduled> m_start;
+};
+
+} // namespace brimlight
