@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickPaintedItem>
+#include <QtQmlIntegration>
+
+namespace brimlight {
+
+/// A dashed frame over a faint fill of the same colour; takes no pointer events.
+class HighlightFrame : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+
+public:
+    explicit HighlightFrame(QQuickItem *parent = nullptr)
+        : QQuickPaintedItem(parent)
+    {
+    }
+
+    QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void colorChanged();
+
+private:
+    QColor m_color;
+};
+
+} // namespace brimlight

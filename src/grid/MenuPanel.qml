@@ -1,0 +1,33 @@
+import QtQuick
+import Brimlight.Theme
+
+// The surface of a menu around its entries.
+Item {
+    id: root
+
+    required property ThemeStore theme
+    default property alias entries: column.data
+
+    implicitWidth: 168
+    implicitHeight: column.implicitHeight + 10
+    Accessible.role: Accessible.PopupMenu
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 10
+        color: Qt.rgba(root.theme.current.surface.r + 0.07, root.theme.current.surface.g + 0.07, root.theme.current.surface.b + 0.07, 1)
+        border.color: Qt.rgba(1, 1, 1, 0.14)
+    }
+    // Clicks between the entries must not reach what lies below.
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+    }
+
+    Column {
+        id: column
+
+        x: 5
+        y: 5
+        width: root.width - 10
+    }
+}

@@ -1,0 +1,70 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+
+// The settings side of a tile.
+Item {
+    id: root
+
+    required property WidgetCatalog catalog
+    required property ThemeStore theme
+    required property string kind
+    required property var instance
+    required property bool closesOnTap
+
+    signal closeRequested
+
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: {
+            if (root.closesOnTap)
+                root.closeRequested();
+        }
+    }
+
+    Flickable {
+        anchors.fill: parent
+        clip: true
+        visible: settings.hasView
+        contentHeight: settings.height + 26
+        boundsBehavior: Flickable.StopAtBounds
+
+        WidgetHost {
+            id: settings
+
+            x: 12
+            y: 14
+            width: root.width - 24
+            height: implicitHeight
+            catalog: root.catalog
+            kind: root.kind
+            instance: root.instance
+            settingsSide: true
+            live: true
+        }
+    }
+
+    Text {
+        anchors.centerIn: parent
+        visible: !settings.hasView
+        text: "Settings coming soon"
+        color: root.theme.current.textSecondary
+        font.pixelSize: 11
+        font.weight: Font.Medium
+    }
+
+    IconButton {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: 8
+        width: 18
+        height: 18
+        symbol: "xmark"
+        symbolSize: 10
+        label: qsTr("Close")
+        color: root.theme.current.textPrimary
+        opacity: 0.8
+        onClicked: root.closeRequested()
+    }
+}

@@ -1,0 +1,132 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+
+// The context menu of one tile, with the sizes in a menu of their own beside it.
+Item {
+    id: root
+
+    required property WidgetCatalog catalog
+    required property GridViewState viewState
+    required property ThemeStore theme
+    property string instanceId
+    property string kind
+    readonly property bool takesKeyboard: true
+    readonly property string currentSize: catalog.sizeOf(instanceId)
+    property bool sizesOpen: false
+    readonly property bool isOpen: instanceId !== ""
+    readonly property rect menuRect: isOpen ? Qt.rect(menu.x, menu.y, menu.width, menu.height) : Qt.rect(0, 0, 0, 0)
+    readonly property rect sizesRect: sizesOpen ? Qt.rect(sizes.x, sizes.y, sizes.width, sizes.height) : Qt.rect(0, 0, 0, 0)
+
+    signal closed
+
+    function openFor(id: string, widgetKind: string, at: point): void {
+        instanceId = id;
+        kind = widgetKind;
+        sizesOpen = false;
+        menu.x = Math.max(4, Math.min(at.x, width - menu.width - 4));
+        menu.y = Math.max(4, Math.min(at.y, height - menu.height - 4));
+        menu.forceActiveFocus();
+    }
+    function close(): void {
+        instanceId = "";
+        sizesOpen = false;
+        closed();
+    }
+
+    visible: isOpen
+    focus: isOpen
+    Keys.onEscapePressed: {
+        if (sizesOpen)
+            sizesOpen = false;
+        else
+            close();
+    }
+    Keys.onLeftPressed: sizesOpen = false
+
+    // A click anywhere else closes.
+    TapHandler {
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: root.close()
+    }
+
+    MenuPanel {
+        id: menu
+
+        width: implicitWidth
+        height: implicitHeight
+        theme: root.theme
+        Accessible.name: root.catalog.displayName(root.kind)
+
+        MenuEntry {
+            width: parent.width
+            visible: root.catalog.hasSettings(root.kind)
+            theme: root.theme
+            text: "Settings (Flip)"
+            onTriggered: {
+                root.viewState.toggleFlip(root.instanceId);
+                root.close();
+            }
+        }
+        Rectangle {
+            width: parent.width
+            height: 1
+            visible: root.catalog.hasSettings(root.kind)
+            color: root.theme.current.separator
+        }
+        MenuEntry {
+            id: sizeEntry
+
+            width: parent.width
+            visible: sizeRepeater.count > 0
+            theme: root.theme
+            text: "Size"
+            opensSubmenu: true
+            onTriggered: root.sizesOpen = !root.sizesOpen
+        }
+        MenuEntry {
+            width: parent.width
+            theme: root.theme
+            text: "Remove"
+            destructive: true
+            onTriggered: {
+                const id = root.instanceId;
+                root.close();
+                root.catalog.remove(id);
+            }
+        }
+    }
+
+    MenuPanel {
+        id: sizes
+
+        width: 138
+        height: implicitHeight
+        x: menu.x + menu.width + 4 + width > root.width ? menu.x - width - 4 : menu.x + menu.width + 4
+        y: Math.min(menu.y + sizeEntry.y, root.height - height - 4)
+        visible: root.sizesOpen
+        theme: root.theme
+        Accessible.name: "Size"
+
+        Repeater {
+            id: sizeRepeater
+
+            model: root.isOpen ? root.catalog.sizes(root.kind) : []
+
+            MenuEntry {
+                required property var modelData
+
+                width: parent.width
+                theme: root.theme
+                text: modelData.label
+                checked: modelData.size === root.currentSize
+                onTriggered: {
+                    root.catalog.setSize(root.instanceId, modelData.size);
+                    root.close();
+                }
+            }
+        }
+    }
+}

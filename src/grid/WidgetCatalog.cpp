@@ -1,0 +1,122 @@
+#include "grid/WidgetCatalog.h"
+
+#include "grid/GridMetrics.h"
+#include "grid/GridStore.h"
+#include "grid/WidgetRegistry.h"
+
+#include <QQmlComponent>
+
+#include <algorithm>
+
+namespace brimlight {
+
+QString sizeText(WidgetSize size)
+{
+    return QStringLiteral("%1×%2").arg(columnSpan(size)).arg(rowSpan(size));
+}
+
+QString sizeLabel(WidgetSize size)
+{
+    const auto name = [size] {
+        switch (size) {
+        case WidgetSize::small:
+            return QStringLiteral("Small");
+        case WidgetSize::tall:
+            return QStringLiteral("Tall");
+        case WidgetSize::wide:
+            return QStringLiteral("Wide");
+        case WidgetSize::large:
+            return QStringLiteral("Large");
+        case WidgetSize::banner:
+            return QStringLiteral("Banner");
+        case WidgetSize::wideTall:
+            return QStringLiteral("Big");
+        case WidgetSize::huge:
+            return QStringLiteral("Huge");
+        }
+        Q_UNREACHABLE();
+    }();
+    return QStringLiteral("%1 (%2)").arg(name, sizeText(size));
+}
+
+GalleryEntry galleryEntry(const WidgetMetadata &metadata)
+{
+    const auto &allowed = metadata.allowedSizes;
+    const bool hasWide = std::find(allowed.begin(), allowed.end(), WidgetSize::wide) != allowed.end();
+    const WidgetSize preview = hasWide ? WidgetSize::wide : metadata.defaultSize;
+    QStringList sizes;
+    for (const WidgetSize size : allowed)
+        sizes.append(sizeText(size));
+    return {.kind = metadata.kind,
+            .name = metadata.displayName,
+            .symbol = metadata.symbol,
+            .sizes = sizes.join(QStringLiteral(" · ")),
+            .chip = sizeText(metadata.defaultSize),
+            .previewSize = rawValue(preview),
+            .naturalSize = gridMetrics::rectangle(preview)};
+}
+
+WidgetCatalog::WidgetCatalog(const WidgetEnvironment &environment, QObject *parent)
+    : QObject(parent)
+    , m_environment(environment)
+{
+}
+
+WidgetCatalog::~WidgetCatalog() = default;
+
+QVariantList WidgetCatalog::gallery() const
+{
+    QVariantList entries;
+    for (const WidgetDefinition &definition : m_environment.registry.all())
+        entries.append(QVariant::fromValue(galleryEntry(definition.metadata)));
+    return entries;
+}
+
+bool WidgetCatalog::hasSettings(const QString &kind) const
+{
+    const WidgetDefinition *definition = m_environment.registry.definition(kind);
+    return definition && definition->metadata.hasSettings;
+}
+
+QVariantList WidgetCatalog::sizes(const QString &kind) const
+{
+    QVariantList entries;
+    if (const WidgetDefinition *definition = m_environment.registry.definition(kind)) {
+        for (const WidgetSize size : definition->metadata.allowedSizes)
+            entries.append(QVariant::fromValue(SizeEntry{.size = rawValue(size), .label = sizeLabel(size)}));
+    }
+    return entries;
+}
+
+QString WidgetCatalog::displayName(const QString &kind) const
+{
+    const WidgetDefinition *definition = m_environment.registry.definition(kind);
+    return definition ? definition->metadata.displayName : kind;
+}
+
+QString WidgetCatalog::sizeOf(const QString &id) const
+{
+    const auto size = m_environment.grid.size(QUuid::fromString(id));
+    return size ? rawValue(*size) : QString();
+}
+
+void WidgetCatalog::setSize(const QString &id, const QString &size)
+{
+    if (const auto parsed = widgetSizeFromRawValue(size))
+        m_environment.grid.setSize(QUuid::fromString(id), *parsed);
+}
+
+void WidgetCatalog::remove(const QString &id)
+{
+    m_environment.grid.remove(QUuid::fromString(id));
+}
+
+QQmlComponent &WidgetCatalog::component(QQmlEngine &engine, const QUrl &url)
+{
+    auto &component = m_components[url.toString()];
+    if (!component)
+        component = std::make_unique<QQmlComponent>(&engine, url);
+    return *component;
+}
+
+} // namespace brimlight

@@ -1,0 +1,72 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+
+// One page of the grid: free cells, the place a dragged tile would take, and the tiles. Tiles of other pages stay made.
+Item {
+    id: root
+
+    required property WidgetCatalog catalog
+    required property GridStore grid
+    required property TileModel tiles
+    required property GridDrag drag
+    required property GridViewState viewState
+    required property ThemeStore theme
+    required property int page
+    required property bool open
+
+    signal menuRequested(string instanceId, string kind, point position)
+
+    implicitWidth: backdrop.implicitWidth
+    implicitHeight: backdrop.implicitHeight
+
+    GridBackdrop {
+        id: backdrop
+
+        width: implicitWidth
+        height: implicitHeight
+        grid: root.grid
+        page: root.page
+        dragging: root.drag.isActive
+    }
+
+    DropHighlight {
+        visible: root.drag.hasTarget
+        x: root.drag.highlight.x
+        y: root.drag.highlight.y
+        width: root.drag.highlight.width
+        height: root.drag.highlight.height
+        fits: root.drag.fits
+
+        Behavior on x {
+            NumberAnimation {
+                duration: Motion.quickFade.duration
+                easing: Motion.quickFade.easing
+            }
+        }
+        Behavior on y {
+            NumberAnimation {
+                duration: Motion.quickFade.duration
+                easing: Motion.quickFade.easing
+            }
+        }
+    }
+
+    Repeater {
+        model: root.tiles
+
+        WidgetTile {
+            catalog: root.catalog
+            theme: root.theme
+            viewState: root.viewState
+            shown: root.open && page === root.page
+            visible: page === root.page
+            z: flipped ? 2 : 0
+            onMenuRequested: position => root.menuRequested(instanceId, kind, mapToItem(root, position))
+            onDragStarted: root.drag.begin(instanceId, page)
+            onDragMoved: position => root.drag.move(mapToItem(root, position))
+            onDragEnded: position => root.drag.drop(mapToItem(root, position))
+        }
+    }
+}

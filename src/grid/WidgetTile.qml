@@ -1,0 +1,179 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+
+// The frame around a widget: glass, hover, flip and the ways to its menu.
+Item {
+    id: root
+
+    required property string instanceId
+    required property string kind
+    required property int page
+    required property rect frame
+    required property int col
+    required property int row
+    required property var instance
+    required property WidgetCatalog catalog
+    required property ThemeStore theme
+    required property GridViewState viewState
+    required property bool shown
+
+    readonly property bool flipped: viewState.flippedWidget === instanceId
+    readonly property bool isOneRow: frame.height < 80
+    readonly property bool isSmall: isOneRow && frame.width < 80
+    // From 0, the front, to 180, the back.
+    property real angle: flipped ? 180 : 0
+    property real entrance: shown ? 1 : 0
+
+    signal menuRequested(point position)
+    signal dragStarted
+    signal dragMoved(point position)
+    signal dragEnded(point position)
+
+    x: frame.x
+    y: frame.y
+    width: frame.width
+    height: frame.height + (flipped && isOneRow ? 110 : 0)
+    opacity: entrance
+    transformOrigin: Item.Top
+    scale: (0.85 + 0.15 * entrance) * (hover.hovered && !Motion.reduced ? 1.02 : flipped ? 0.98 : 1)
+    activeFocusOnTab: shown
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: catalog.displayName(kind)
+    Keys.onMenuPressed: menuRequested(Qt.point(width / 2, height / 2))
+    Keys.onReturnPressed: menuRequested(Qt.point(width / 2, height / 2))
+    Keys.onSpacePressed: menuRequested(Qt.point(width / 2, height / 2))
+
+    Behavior on x {
+        enabled: root.entrance === 1
+
+        NumberAnimation {
+            duration: Motion.layout.duration
+            easing: Motion.layout.easing
+        }
+    }
+    Behavior on y {
+        enabled: root.entrance === 1
+
+        NumberAnimation {
+            duration: Motion.layout.duration
+            easing: Motion.layout.easing
+        }
+    }
+    Behavior on width {
+        enabled: root.entrance === 1
+
+        NumberAnimation {
+            duration: Motion.layout.duration
+            easing: Motion.layout.easing
+        }
+    }
+    Behavior on height {
+        enabled: root.entrance === 1
+
+        NumberAnimation {
+            duration: Motion.layout.duration
+            easing: Motion.layout.easing
+        }
+    }
+    Behavior on angle {
+        NumberAnimation {
+            duration: Motion.flip.duration
+            easing: Motion.flip.easing
+        }
+    }
+    Behavior on scale {
+        enabled: root.entrance === 1
+
+        NumberAnimation {
+            duration: Motion.hover.duration
+            easing: Motion.hover.easing
+        }
+    }
+    Behavior on entrance {
+        enabled: root.shown
+
+        SequentialAnimation {
+            PauseAnimation {
+                duration: Motion.reduced ? 0 : (root.row * 6 + root.col) * 30
+            }
+            NumberAnimation {
+                duration: Motion.entrance.duration
+                easing: Motion.entrance.easing
+            }
+        }
+    }
+
+    HoverHandler {
+        id: hover
+    }
+    // A tap on a tile is the tile's own: it must not reach the bare surface and close the panel.
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: point => root.menuRequested(point.position)
+    }
+    DragHandler {
+        target: null
+        enabled: !root.flipped
+        acceptedButtons: Qt.LeftButton
+        onActiveChanged: active ? root.dragStarted() : root.dragEnded(centroid.position)
+        onCentroidChanged: {
+            if (active)
+                root.dragMoved(centroid.position);
+        }
+    }
+
+    // A turn about the vertical axis, seen from the front: the width shrinks to nothing and comes back.
+    transform: Scale {
+        origin.x: root.width / 2
+        xScale: Math.max(Math.abs(Math.cos(root.angle * Math.PI / 180)), 0.001)
+    }
+
+    GlassTileBackground {
+        anchors.fill: parent
+        theme: root.theme.current
+        strength: root.theme.glassStrength
+        focused: hover.hovered || root.activeFocus
+        reduceTransparency: Motion.opaque
+    }
+
+    WidgetHost {
+        id: front
+
+        anchors.fill: parent
+        anchors.margins: 8
+        visible: root.angle < 90
+        catalog: root.catalog
+        kind: root.kind
+        instance: root.instance
+        live: root.shown
+
+        Symbol {
+            anchors.centerIn: parent
+            visible: !front.hasView
+            name: "questionmark.circle"
+            size: 22
+            color: root.theme.current.textSecondary
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: root.flipped || root.angle > 0
+        visible: root.angle >= 90
+        sourceComponent: TileBack {
+            catalog: root.catalog // qmllint disable unqualified
+            theme: root.theme // qmllint disable unqualified
+            kind: root.kind // qmllint disable unqualified
+            instance: root.instance // qmllint disable unqualified
+            closesOnTap: root.isSmall // qmllint disable unqualified
+            onCloseRequested: root.viewState.clearFlip() // qmllint disable unqualified
+        }
+    }
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "grid/WidgetDefinition.h"
+
+namespace brimlight {
+
+/// The load of processor and memory over time.
+struct UsageGraphWidget
+{
+    static WidgetMetadata metadata()
+    {
+        return {.kind = QStringLiteral("usagegraph"),
+                .displayName = QStringLiteral("CPU / RAM Graph"),
+                .symbol = QStringLiteral("chart.xyaxis.line"),
+                .allowedSizes = {WidgetSize::wide, WidgetSize::large, WidgetSize::banner,
+                                 WidgetSize::wideTall, WidgetSize::huge},
+                .defaultSize = WidgetSize::large,
+                .refresh = RefreshCadence::seconds(2)};
+    }
+    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+};
+
+} // namespace brimlight
