@@ -1,0 +1,87 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Widgets
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    readonly property theme colors: context.theme.current
+    readonly property real cellWidth: (width - 6 * 2) / 7
+    readonly property int rows: Math.ceil(calendar.cells.length / 7)
+    readonly property real headerHeight: title.visible ? title.height + 3 : 0
+    readonly property real cellHeight: calendar.showsWeek ? 26 : Math.min(26, (height - headerHeight - 15 - rows * 2) / Math.max(rows, 1))
+
+    CalendarFace {
+        id: calendar
+
+        context: root.context
+    }
+
+    Text {
+        id: title
+
+        visible: !calendar.showsWeek && root.context.size === "huge"
+        text: calendar.title
+        color: root.colors.textPrimary
+        font.family: Fonts.rounded
+        font.pixelSize: 13
+        font.weight: Font.Bold
+    }
+
+    Grid {
+        y: calendar.showsWeek ? (root.height - height) / 2 : root.headerHeight
+        columns: 7
+        columnSpacing: 2
+        rowSpacing: calendar.showsWeek ? 3 : 2
+
+        Repeater {
+            model: calendar.weekdays
+
+            Text {
+                required property string modelData
+
+                width: root.cellWidth
+                height: 13
+                horizontalAlignment: Text.AlignHCenter
+                text: modelData
+                color: root.colors.textSecondary
+                font.family: Fonts.rounded
+                font.pixelSize: calendar.showsWeek ? 9 : 11
+                font.weight: Font.Medium
+            }
+        }
+        Repeater {
+            model: calendar.cells
+
+            Item {
+                id: cell
+
+                required property var modelData
+
+                width: root.cellWidth
+                height: root.cellHeight
+
+                Rectangle {
+                    anchors.centerIn: parent
+                    width: Math.min(parent.width, parent.height, 22)
+                    height: width
+                    radius: width / 2
+                    visible: cell.modelData.isToday
+                    color: root.colors.accent
+                }
+                Text {
+                    anchors.centerIn: parent
+                    visible: cell.modelData.day > 0
+                    text: cell.modelData.day
+                    color: cell.modelData.isToday ? "white" : root.colors.textPrimary
+                    font.family: Fonts.rounded
+                    font.pixelSize: 10
+                    font.weight: cell.modelData.isToday ? Font.Bold : Font.Normal
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,47 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Widgets
+
+Column {
+    id: root
+
+    required property WidgetContext context
+    readonly property theme colors: context.theme.current
+
+    spacing: 6
+
+    ClockFace {
+        id: clock
+
+        context: root.context
+    }
+    Text {
+        text: "Clock Settings"
+        color: root.colors.textPrimary
+        font.family: Fonts.rounded
+        font.pixelSize: 12
+        font.weight: Font.Bold
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+    SegmentedPicker {
+        width: parent.width
+        colors: root.colors
+        label: "Design:"
+        labels: ["Gradient", "Solid", "Mono"]
+        values: ["gradient", "solid", "monochrome"]
+        value: clock.style
+        onChosen: value => root.context.setOption("style", value)
+    }
+    SegmentedPicker {
+        width: parent.width
+        colors: root.colors
+        label: "Font:"
+        labels: ["Rounded", "Mono", "Serif"]
+        values: ["rounded", "monospaced", "serif"]
+        value: clock.font
+        onChosen: value => root.context.setOption("font", value)
+    }
+}

@@ -1,0 +1,87 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Widgets
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    readonly property theme colors: context.theme.current
+    readonly property string size: context.size
+    readonly property bool isRich: size === "large" || size === "wideTall"
+
+    DayProgressFace {
+        id: progress
+
+        context: root.context
+    }
+
+    Text {
+        id: heading
+
+        visible: root.isRich || root.size === "banner"
+        text: root.isRich ? "Progress" : "Day Progress"
+        anchors.verticalCenter: root.size === "banner" ? parent.verticalCenter : undefined
+        color: root.colors.textPrimary
+        font.family: Fonts.rounded
+        font.pixelSize: root.isRich ? 12 : 11
+        font.weight: Font.DemiBold
+    }
+
+    Item {
+        id: ring
+
+        readonly property real side: root.isRich ? Math.min(root.width * 0.62, root.height - heading.height - 10 - bars.height - 10) : root.height
+
+        width: side
+        height: side
+        x: root.isRich ? (root.width - side) / 2 : root.size === "banner" ? heading.width + 12 : root.size === "small" ? (root.width - side) / 2 : 0
+        y: root.isRich ? heading.height + 10 : 0
+
+        RingGauge {
+            anchors.fill: parent
+            value: progress.day
+            lineWidth: 6
+            tint: root.colors.accent
+            track: Qt.alpha(root.colors.accent, 0.18)
+            reduceMotion: Motion.reduced
+        }
+        Text {
+            anchors.centerIn: parent
+            text: progress.dayText
+            color: root.colors.textPrimary
+            font.family: Fonts.rounded
+            font.pixelSize: 13
+            font.weight: Font.DemiBold
+        }
+    }
+
+    Column {
+        id: bars
+
+        visible: root.size !== "small"
+        anchors.left: root.isRich ? parent.left : ring.right
+        anchors.leftMargin: root.isRich ? 0 : 12
+        anchors.right: parent.right
+        y: root.isRich ? root.height - height : (root.height - height) / 2
+        spacing: 10
+
+        ProgressBar {
+            width: parent.width
+            label: "Week"
+            fraction: progress.week
+            text: progress.weekText
+            colors: root.colors
+        }
+        ProgressBar {
+            width: parent.width
+            visible: root.size !== "banner"
+            label: "Month"
+            fraction: progress.month
+            text: progress.monthText
+            colors: root.colors
+        }
+    }
+}

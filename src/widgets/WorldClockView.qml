@@ -1,0 +1,74 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Widgets
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    readonly property theme colors: context.theme.current
+    readonly property bool isTall: context.size === "tall"
+
+    WorldClockFace {
+        id: clock
+
+        context: root.context
+    }
+
+    Column {
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width
+        spacing: clock.spacing
+
+        Repeater {
+            model: clock.count
+
+            Item {
+                id: place
+
+                required property int index
+                readonly property worldClockPlace entry: clock.places[index]
+
+                width: parent.width
+                height: root.isTall ? 30 : 18
+
+                Symbol {
+                    id: symbol
+
+                    anchors.verticalCenter: label.verticalCenter
+                    name: place.entry.symbol
+                    size: root.isTall ? 9 : 11
+                    color: place.entry.isDay ? "#FFD60A" : root.colors.textSecondary
+                }
+                Text {
+                    id: label
+
+                    anchors.left: symbol.right
+                    anchors.leftMargin: root.isTall ? 4 : 8
+                    anchors.verticalCenter: root.isTall ? undefined : parent.verticalCenter
+                    width: Math.min(implicitWidth, (root.isTall ? parent.width : time.x) - x)
+                    text: place.entry.label
+                    color: root.colors.textSecondary
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: root.isTall ? 6 : 8
+                    elide: Text.ElideRight
+                    font.family: Fonts.rounded
+                    font.pixelSize: root.isTall ? 9 : 11
+                }
+                RollingNumber {
+                    id: time
+
+                    x: root.isTall ? 0 : parent.width - width
+                    y: root.isTall ? label.height + 1 : (parent.height - height) / 2
+                    text: place.entry.time
+                    font.family: Fonts.rounded
+                    font.pixelSize: root.isTall ? 15 : 14
+                    font.weight: Font.DemiBold
+                    color: root.colors.textPrimary
+                }
+            }
+        }
+    }
+}
