@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/AllWidgets.h"
 #include "app/DebugSignalControls.h"
 
 namespace brimlight {
@@ -11,6 +12,7 @@ QString launchLine(const QString &version)
 
 AppDelegate::AppDelegate()
     : m_log(m_platform.ports().log, m_flags)
+    , m_widgets(allWidgets())
 {
 }
 
@@ -18,7 +20,7 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     m_log.info(launchLine(QStringLiteral(BRIMLIGHT_VERSION)));
     m_window.emplace([this](QWindow &window) { return m_platform.makeSurface(window); });
-    m_notch.emplace(m_platform.ports(), *m_window, m_log);
+    m_notch.emplace(m_platform.ports(), *m_window, m_log, m_widgets);
     m_notch->show();
     DebugSignalControls::installIfEnabled(m_flags, m_platform.ports().unixSignals, *m_notch, m_log);
 }

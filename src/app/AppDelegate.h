@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/TraceLog.h"
+#include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
 #include "notch/NotchWindow.h"
 #include "platform/linux/LinuxPlatform.h"
@@ -24,6 +25,7 @@ private:
     LinuxPlatform m_platform;
     DebugFlags m_flags = DebugFlags::fromEnvironment();
     TraceLog m_log;
+    WidgetRegistry m_widgets;
     std::optional<NotchWindow> m_window;
     std::optional<NotchController> m_notch;
 };

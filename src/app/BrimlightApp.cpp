@@ -1,6 +1,7 @@
 #include "app/BrimlightApp.h"
 
 #include "app/AppDelegate.h"
+#include "app/WidgetRenderHarness.h"
 #include "platform/linux/DisplayServer.h"
 #include "platform/linux/JournalLog.h"
 
@@ -29,6 +30,8 @@ void logMessage(QtMsgType type, const QMessageLogContext &context, const QString
 
 int run(int argc, char **argv)
 {
+    if (const auto status = WidgetRenderHarness::runIfRequested(argc, argv))
+        return *status;
     if (const auto reason = prepareDisplay()) {
         std::fprintf(stderr, "brimlight: %s\n", qPrintable(*reason));
         return 1;

@@ -16,7 +16,8 @@ NotchContainer::NotchContainer(OverlaySurface &surface)
     surface.setEvents({.entered = [this] { call(m_callbacks.onEnter); },
                        .exited = [this] { call(m_callbacks.onExit); },
                        .tapped = [this] { call(m_callbacks.onTap); },
-                       .scrolled = [this](const ScrollEvent &event) { return scrolled(event); }});
+                       .scrolled = [this](const ScrollEvent &event) { return scrolled(event); },
+                       .backdropChanged = [this] { call(m_callbacks.onBackdropChanged); }});
 }
 
 bool NotchContainer::scrolled(const ScrollEvent &event)

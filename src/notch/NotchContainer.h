@@ -19,6 +19,8 @@ public:
         std::function<void()> onSwipeDown;
         std::function<void()> onSwipeUp;
         std::function<void()> onTap;
+        /// What lies behind the surface is another kind of thing from now on.
+        std::function<void()> onBackdropChanged;
     };
 
     explicit NotchContainer(OverlaySurface &surface);

@@ -1,57 +1,147 @@
 import QtQuick
+import Brimlight.Core
 import Brimlight.Theme
+import Brimlight.Grid
 import Brimlight.Notch
 
-// What the open panel shows.
+// What the open panel shows: the walk-through, the settings or the grid, and the header above.
 Item {
     id: root
 
     required property NotchController controller
+    readonly property NotchViewModel viewModel: controller.viewModel
     readonly property theme colors: controller.theme.current
-    readonly property bool shown: controller.viewModel.isExpanded
+    readonly property bool shown: viewModel.isExpanded
+    readonly property real topInset: viewModel.collapsedHeight + 8
+    property bool galleryOpen: false
+
+    signal menuRequested(string instanceId, string kind, point position)
+
+    function openGallery(): void {
+        controller.openGallery();
+        galleryOpen = true;
+        gallery.takeFocus();
+    }
+    function closeGallery(): void {
+        controller.closeGallery();
+        galleryOpen = false;
+        root.forceActiveFocus();
+    }
 
     opacity: shown ? 1 : 0
     scale: shown ? 1 : 0.95
     transformOrigin: Item.Top
+    Keys.onEscapePressed: {
+        if (galleryOpen)
+            closeGallery();
+        else if (viewModel.flippedWidget !== "")
+            viewModel.clearFlip();
+        else if (viewModel.showSettings)
+            viewModel.showSettings = false;
+        else
+            controller.requestClose();
+    }
 
     Behavior on opacity {
         NumberAnimation {
-            duration: 200
+            duration: Motion.panel.duration
+            easing: Motion.panel.easing
         }
     }
     Behavior on scale {
         NumberAnimation {
-            duration: 340
-            easing.type: Easing.OutCubic
+            duration: Motion.panel.duration
+            easing: Motion.panel.easing
         }
     }
 
-    Row {
-        anchors.top: parent.top
-        anchors.topMargin: (root.controller.viewModel.collapsedHeight - height) / 2
+    Loader {
+        anchors.fill: parent
+        anchors.topMargin: root.topInset
+        active: !root.viewModel.onboardingCompleted
+        sourceComponent: NotchOnboarding {
+            controller: root.controller // qmllint disable unqualified
+        }
+    }
+
+    Flickable {
+        anchors.fill: parent
+        anchors.topMargin: root.topInset
+        anchors.bottomMargin: 24
+        clip: contentHeight > height
+        visible: root.viewModel.onboardingCompleted && !root.viewModel.showSettings
+        interactive: false
+        contentHeight: grid.implicitHeight
+
+        WidgetGridView {
+            id: grid
+
+            x: (parent.width - implicitWidth) / 2
+            catalog: root.controller.catalog
+            grid: root.controller.grid
+            tiles: root.controller.tiles
+            drag: root.controller.gridDrag
+            viewState: root.viewModel
+            theme: root.controller.theme
+            page: root.viewModel.currentPage
+            open: root.shown && root.viewModel.onboardingCompleted && !root.viewModel.showSettings
+            onMenuRequested: (instanceId, kind, position) => root.menuRequested(instanceId, kind, mapToItem(root, position))
+        }
+        WheelHandler {
+            enabled: !root.viewModel.optionsOpen
+            onWheel: event => {
+                const most = Math.max(0, parent.contentHeight - parent.height);
+                parent.contentY = Math.max(0, Math.min(most, parent.contentY - event.angleDelta.y / 2));
+            }
+        }
+    }
+
+    NotchHeader {
         anchors.left: parent.left
-        anchors.leftMargin: 20
-        spacing: 6
+        anchors.right: parent.right
+        y: Math.max(4, (root.viewModel.collapsedHeight - height) / 2)
+        visible: root.viewModel.onboardingCompleted
+        enabled: !root.galleryOpen
+        controller: root.controller
+        onGalleryRequested: root.openGallery()
+    }
+
+    Item {
+        anchors.fill: parent
+        visible: opacity > 0
+        opacity: root.galleryOpen ? 1 : 0
+
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Motion.fade.duration
+                easing: Motion.fade.easing
+            }
+        }
 
         Rectangle {
-            anchors.verticalCenter: parent.verticalCenter
-            width: 6
-            height: 6
-            radius: 3
-            color: root.colors.accent
+            anchors.fill: parent
+            color: Qt.rgba(0, 0, 0, 0.55)
+
+            TapHandler {
+                gesturePolicy: TapHandler.ReleaseWithinBounds
+                onTapped: root.closeGallery()
+            }
         }
-        Text {
-            text: qsTr("Brimlight")
-            color: root.colors.textPrimary
-            font.pixelSize: 12
-            font.bold: true
+        WidgetGallery {
+            id: gallery
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: root.topInset
+            width: Math.min(380, parent.width - 32)
+            height: parent.height - root.topInset - 24
+            catalog: root.controller.catalog
+            theme: root.controller.theme
+            open: root.galleryOpen && root.shown
+            onAdded: kind => {
+                root.controller.addWidget(kind);
+                root.closeGallery();
+            }
+            onClosed: root.closeGallery()
         }
-    }
-    Text {
-        anchors.centerIn: parent
-        text: root.controller.appSettings.hourMinute(root.controller.ticker.now)
-        color: root.colors.textPrimary
-        font.pixelSize: 56
-        font.weight: Font.Light
     }
 }

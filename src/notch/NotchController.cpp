@@ -1,6 +1,7 @@
 #include "notch/NotchController.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace brimlight {
 namespace {
@@ -12,14 +13,24 @@ QString boolText(bool value)
 
 } // namespace
 
-NotchController::NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log)
+NotchController::NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
+                                 const WidgetRegistry &widgets)
     : m_scheduler(platform.scheduler)
     , m_screens(platform.screens)
     , m_pointer(platform.pointer)
     , m_log(log)
+    , m_motion(&platform.appearance)
     , m_viewModel(platform.defaults)
+    , m_theme(AppPaths(platform.folders).appSupportFile(QStringLiteral("theme.json")), platform.defaults,
+              platform.log)
+    , m_grid(AppPaths(platform.folders).appSupportFile(QStringLiteral("grid.json")), widgets)
     , m_ticker(platform.scheduler, log)
     , m_appSettings(platform.defaults)
+    , m_environment{widgets, m_grid, m_theme, m_appSettings, m_ticker, {}}
+    , m_tiles(m_grid)
+    , m_gridDrag(m_grid, m_viewModel)
+    , m_catalog(m_environment)
+    , m_pageControls(m_grid, m_viewModel)
     , m_panel(hosting.surface())
     , m_container(hosting.surface())
     , m_hoverWatch(platform.pointer, platform.scheduler, [this] { evaluateHover(); })
@@ -46,7 +57,8 @@ void NotchController::wireContainer()
          .onSwipeRight = unlessOptionsOpen([this] { setPage(m_viewModel.currentPage() - 1); }),
          .onSwipeDown = unlessOptionsOpen([this] { open(); }),
          .onSwipeUp = unlessOptionsOpen([this] { requestClose(); }),
-         .onTap = [this] { tap(); }});
+         .onTap = [this] { tap(); },
+         .onBackdropChanged = [this] { Q_EMIT m_panel.backdropChanged(); }});
 }
 
 void NotchController::subscribe()
@@ -136,6 +148,24 @@ void NotchController::requestClose()
 {
     m_viewModel.setPinned(false);
     setExpanded(false);
+}
+
+void NotchController::openGallery()
+{
+    m_wasPinned = m_viewModel.isPinned();
+    m_viewModel.setPinned(true);
+    m_viewModel.setOptionsOpen(true);
+}
+
+void NotchController::closeGallery()
+{
+    m_viewModel.setPinned(m_wasPinned);
+    m_viewModel.setOptionsOpen(false);
+}
+
+void NotchController::addWidget(const QString &kind)
+{
+    m_grid.add(kind, m_viewModel.currentPage());
 }
 
 void NotchController::open()
@@ -260,7 +290,9 @@ void NotchController::resizeIfExpanded()
 
 int NotchController::pageCount() const
 {
-    return std::max(m_grid.layout().pageCount, 1);
+    // A stored layout can have more pages than anybody turns.
+    constexpr qint64 most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp<qint64>(m_grid.layout().pageCount, 1, most));
 }
 
 void NotchController::clampCurrentPage()

@@ -4,14 +4,19 @@
 #include "core/AppSettings.h"
 #include "core/TickCoordinator.h"
 #include "core/TraceLog.h"
+#include "grid/GridDrag.h"
 #include "grid/GridStore.h"
+#include "grid/TileModel.h"
+#include "grid/WidgetCatalog.h"
 #include "notch/HoverWatch.h"
 #include "notch/NotchContainer.h"
 #include "notch/NotchPanel.h"
 #include "notch/NotchViewModel.h"
+#include "notch/PageControls.h"
 #include "notch/Placement.h"
 #include "platform/Platform.h"
 #include "platform/WorkItem.h"
+#include "theme/Motion.h"
 #include "theme/ThemeStore.h"
 
 #include <QObject>
@@ -43,6 +48,11 @@ class NotchController : public QObject
     Q_PROPERTY(brimlight::ThemeStore *theme READ theme CONSTANT)
     Q_PROPERTY(brimlight::AppSettings *appSettings READ appSettings CONSTANT)
     Q_PROPERTY(brimlight::TickCoordinator *ticker READ ticker CONSTANT)
+    Q_PROPERTY(brimlight::GridStore *grid READ grid CONSTANT)
+    Q_PROPERTY(brimlight::TileModel *tiles READ tiles CONSTANT)
+    Q_PROPERTY(brimlight::GridDrag *gridDrag READ gridDrag CONSTANT)
+    Q_PROPERTY(brimlight::WidgetCatalog *catalog READ catalog CONSTANT)
+    Q_PROPERTY(brimlight::PageControls *pageControls READ pageControls CONSTANT)
 
 public:
     /// A point this far outside of the panel still counts as inside.
@@ -50,7 +60,8 @@ public:
     /// From the moment the pointer is out to the collapse.
     static constexpr std::chrono::milliseconds collapseDelay{120};
 
-    NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log);
+    NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
+                    const WidgetRegistry &widgets);
 
     /// Places the panel and orders it front; called once. From now on the panel is only ever resized.
     void show();
@@ -65,6 +76,11 @@ public:
     Q_INVOKABLE void togglePin() { tapTogglePin(); }
     Q_INVOKABLE void filesDropped();
     Q_INVOKABLE void requestClose();
+    /// The panel must not close while the gallery is open; closing it restores the pin.
+    Q_INVOKABLE void openGallery();
+    Q_INVOKABLE void closeGallery();
+    /// To the current page, where there is room.
+    Q_INVOKABLE void addWidget(const QString &kind);
     /// Opens and pins.
     void open();
     /// A tap on the bare surface or on the collapsed strip.
@@ -73,7 +89,12 @@ public:
     NotchViewModel *viewModel() { return &m_viewModel; }
     NotchPanel *panel() { return &m_panel; }
     ThemeStore *theme() { return &m_theme; }
+    Motion &motion() { return m_motion; }
     GridStore *grid() { return &m_grid; }
+    TileModel *tiles() { return &m_tiles; }
+    GridDrag *gridDrag() { return &m_gridDrag; }
+    WidgetCatalog *catalog() { return &m_catalog; }
+    PageControls *pageControls() { return &m_pageControls; }
     AppSettings *appSettings() { return &m_appSettings; }
     TickCoordinator *ticker() { return &m_ticker; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
@@ -108,16 +129,24 @@ private:
     const TraceLog &m_log;
 
     // In the order in which they come into being: later ones take the state of earlier ones.
+    Motion m_motion;
     NotchViewModel m_viewModel;
     ThemeStore m_theme;
     GridStore m_grid;
     TickCoordinator m_ticker;
     AppSettings m_appSettings;
+    WidgetEnvironment m_environment;
+    TileModel m_tiles;
+    GridDrag m_gridDrag;
+    WidgetCatalog m_catalog;
+    PageControls m_pageControls;
     NotchPanel m_panel;
     NotchContainer m_container;
     HoverWatch m_hoverWatch;
 
     std::optional<Screen> m_currentScreen;
+    /// Whether the panel was pinned when the gallery opened.
+    bool m_wasPinned = false;
     WorkItem m_collapseWork;
     WorkItem m_expandWork;
     std::unique_ptr<EventMonitor> m_leftRelease;

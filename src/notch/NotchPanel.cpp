@@ -1,15 +1,15 @@
 #include "notch/NotchPanel.h"
 
-#include "notch/NotchShape.h"
 #include "notch/Placement.h"
-#include "theme/Spring.h"
+#include "theme/Motion.h"
+#include "theme/NotchShape.h"
 
 #include <algorithm>
 
 namespace brimlight {
 namespace {
 
-constexpr Spring frameSpring{std::chrono::duration<double>(0.34), 0.85};
+constexpr Spring frameSpring = Motion::panelSpring;
 
 double mix(double from, double to, double progress)
 {
@@ -59,6 +59,8 @@ void NotchPanel::setFrame(const Rect &frame, bool animate)
 {
     const bool jump = !animate || frame.maxY() != m_frame.maxY() || frame.midX() != m_frame.midX();
     m_frame = frame;
+    if (m_contentVisible)
+        m_openHeight = frame.height;
     m_animation.stop();
     if (!m_contentVisible)
         m_surface.setSensor(m_frame);
@@ -113,10 +115,15 @@ bool NotchPanel::contains(Point point, double margin) const
                        [&](const Rect &popover) { return popover.outset(margin).contains(point); });
 }
 
-QRectF NotchPanel::toScreen(const QRectF &local) const
+void NotchPanel::showPopover(QObject *owner, const QRectF &local)
 {
-    return {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(), local.width(),
-            local.height()};
+    if (!owner)
+        return;
+    if (local.isEmpty())
+        removePopover(*owner);
+    else
+        setPopoverFrame(*owner, {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(),
+                                 local.width(), local.height()});
 }
 
 void NotchPanel::step(const Rect &displayed)
@@ -165,7 +172,7 @@ void NotchPanel::updateOutlines()
     }
     const double radius = NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius(
         {0, 0, m_displayed.width, m_displayed.height});
-    std::vector<SurfaceOutline> outlines{{.frame = m_displayed, .bottomRadius = radius}};
+    std::vector<SurfaceOutline> outlines{{.frame = m_displayed, .bottomRadius = radius, .blursBehind = true}};
     for (const Rect &popover : m_popovers)
         outlines.push_back({.frame = popover});
     m_surface.setOutlines(outlines);

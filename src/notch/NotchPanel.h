@@ -22,6 +22,8 @@ class NotchPanel : public QObject
     QML_UNCREATABLE("owned by the controller")
     Q_PROPERTY(QRectF pane READ pane NOTIFY paneChanged)
     Q_PROPERTY(bool isDrawn READ isDrawn NOTIFY isDrawnChanged)
+    Q_PROPERTY(double openHeight READ openHeight NOTIFY paneChanged)
+    Q_PROPERTY(int backdrop READ backdrop NOTIFY backdropChanged)
 
 public:
     /// How far popovers and shadows can reach beyond the largest frame, in points.
@@ -39,6 +41,11 @@ public:
 
     /// What is drawn now, in the surface's own coordinates: origin at its top left, y downwards.
     QRectF pane() const;
+    /// The height that the content is laid out for: that of the open panel, also while it is growing or
+    /// shrinking.
+    double openHeight() const { return m_openHeight; }
+    /// What lies behind what is drawn: a SurfaceBackdrop.
+    int backdrop() const { return static_cast<int>(m_surface.backdrop()); }
     /// False while collapsed and at rest.
     bool isDrawn() const { return m_isDrawn; }
     /// Jumps to the end of a running animation.
@@ -51,15 +58,15 @@ public:
     /// destroyed takes its popover with it.
     void setPopoverFrame(QObject &owner, const Rect &frame);
     void removePopover(QObject &owner);
+    /// The same for views, in the surface's coordinates; an empty rectangle takes the popover away.
+    Q_INVOKABLE void showPopover(QObject *owner, const QRectF &local);
     /// True when the point lies within `margin` of the panel or of one of its popovers.
     bool contains(Point point, double margin) const;
-
-    /// From the surface's coordinates to logical ones.
-    Q_INVOKABLE QRectF toScreen(const QRectF &local) const;
 
 Q_SIGNALS:
     void paneChanged();
     void isDrawnChanged();
+    void backdropChanged();
 
 private:
     void step(const Rect &displayed);
@@ -73,6 +80,7 @@ private:
     Rect m_displayed = m_frame;
     Rect m_extent = m_frame;
     Rect m_from = m_frame;
+    double m_openHeight = 0;
     QVariantAnimation m_animation;
     bool m_contentVisible = false;
     bool m_isDrawn = false;

@@ -1,8 +1,11 @@
 import QtQuick
+import Brimlight.Core
 import Brimlight.Theme
+import Brimlight.Grid
 import Brimlight.Notch
 
-// The root of the view tree: fills the surface and draws the pane where the panel says.
+// The root of the view tree: fills the surface and draws the pane where the panel says. Menus stand above the pane and
+// may reach beyond it.
 Item {
     id: root
 
@@ -10,7 +13,7 @@ Item {
     readonly property NotchPanel panel: controller.panel
     readonly property theme colors: controller.theme.current
 
-    NotchPane {
+    Item {
         id: pane
 
         x: root.panel.pane.x
@@ -18,36 +21,90 @@ Item {
         width: root.panel.pane.width
         height: root.panel.pane.height
         visible: root.panel.isDrawn
-        color: root.colors.surface
-        rim: root.colors.separator
-        bottomRadius: 32
-        clip: true
 
-        TapHandler {
-            onTapped: root.controller.tap()
+        GlassSurface {
+            anchors.fill: parent
+            theme: root.colors
+            strength: root.controller.theme.glassStrength
+            tinted: true
+            border: true
+            bottomRadius: 32
+            reduceTransparency: Motion.opaque
+            backdrop: root.panel.backdrop
         }
 
-        Loader {
-            id: content
+        // The bare surface, below everything that takes taps of its own.
+        Item {
+            anchors.fill: parent
 
-            property bool wanted: false
+            TapHandler {
+                gesturePolicy: TapHandler.ReleaseWithinBounds
+                onTapped: root.controller.tap()
+            }
+        }
 
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.max(root.panel.pane.width, root.controller.viewModel.collapsedWidth)
-            height: parent.height
-            active: wanted
-            // Made when first shown, then kept.
-            Connections {
-                target: root.panel
+        Item {
+            anchors.fill: parent
+            clip: true
 
-                function onIsDrawnChanged() {
-                    content.wanted = true;
+            Loader {
+                id: content
+
+                property bool wanted: false
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.max(536, root.controller.viewModel.collapsedWidth)
+                height: root.panel.openHeight
+                active: wanted
+                focus: true
+
+                // Made when first shown, then kept.
+                Connections {
+                    target: root.panel
+
+                    function onIsDrawnChanged() {
+                        content.wanted = true;
+                    }
+                }
+
+                sourceComponent: NotchContent {
+                    controller: root.controller // qmllint disable unqualified
+                    onMenuRequested: (instanceId, kind, position) => menu.openFor(instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
                 }
             }
+        }
+    }
 
-            sourceComponent: NotchContent {
-                controller: root.controller // qmllint disable unqualified
+    DropArea {
+        anchors.fill: pane
+        onDropped: drop => {
+            if (drop.hasUrls) {
+                drop.accept(Qt.CopyAction);
+                root.controller.filesDropped();
             }
+        }
+
+        NotchOutline {
+            anchors.fill: parent
+            visible: parent.containsDrag
+            color: root.colors.accent
+            opacity: 0.9
+        }
+    }
+
+    TileMenu {
+        id: menu
+
+        anchors.fill: parent
+        catalog: root.controller.catalog
+        viewState: root.controller.viewModel
+        theme: root.controller.theme
+        onMenuRectChanged: root.panel.showPopover(menu, menuRect)
+        onSizesRectChanged: root.panel.showPopover(sizes, sizesRect)
+        onClosed: content.forceActiveFocus()
+
+        QtObject {
+            id: sizes
         }
     }
 }

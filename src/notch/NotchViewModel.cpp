@@ -13,7 +13,7 @@ QString onboardingKey()
 } // namespace
 
 NotchViewModel::NotchViewModel(UserDefaults &defaults, QObject *parent)
-    : QObject(parent)
+    : GridViewState(parent)
     , m_defaults(defaults)
     , m_onboardingCompleted(defaults.read<bool>(onboardingKey()).value_or(false))
 {
@@ -47,24 +47,6 @@ void NotchViewModel::setShowSettings(bool value)
 {
     m_showSettings = value;
     Q_EMIT showSettingsChanged();
-}
-
-void NotchViewModel::setDragging(bool value)
-{
-    m_isDragging = value;
-    Q_EMIT isDraggingChanged();
-}
-
-void NotchViewModel::setFlippedWidgetID(const std::optional<QUuid> &value)
-{
-    m_flippedWidgetID = value;
-    Q_EMIT flippedWidgetIDChanged();
-}
-
-void NotchViewModel::setOptionsOpen(bool value)
-{
-    m_optionsOpen = value;
-    Q_EMIT optionsOpenChanged();
 }
 
 void NotchViewModel::setHudType(const std::optional<HUDType> &value)

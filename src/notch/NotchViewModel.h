@@ -1,10 +1,9 @@
 #pragma once
 
+#include "grid/GridViewState.h"
 #include "notch/HUDType.h"
 #include "notch/NotchGeometry.h"
 
-#include <QObject>
-#include <QUuid>
 #include <QtQmlIntegration>
 
 #include <optional>
@@ -15,7 +14,7 @@ class UserDefaults;
 
 /// The one description of the state of the notch surface. It holds values and no rules: who may write each of
 /// them stands beside it. Every assignment notifies, equal value or not.
-class NotchViewModel : public QObject
+class NotchViewModel : public brimlight::GridViewState
 {
     Q_OBJECT
     QML_ELEMENT
@@ -27,8 +26,6 @@ class NotchViewModel : public QObject
     Q_PROPERTY(double collapsedWidth READ collapsedWidth NOTIFY geometryChanged)
     Q_PROPERTY(double collapsedHeight READ collapsedHeight NOTIFY geometryChanged)
     Q_PROPERTY(bool showSettings READ showSettings WRITE setShowSettings NOTIFY showSettingsChanged)
-    Q_PROPERTY(bool isDragging READ isDragging WRITE setDragging NOTIFY isDraggingChanged)
-    Q_PROPERTY(bool optionsOpen READ optionsOpen WRITE setOptionsOpen NOTIFY optionsOpenChanged)
     Q_PROPERTY(bool onboardingCompleted READ onboardingCompleted WRITE setOnboardingCompleted NOTIFY
                    onboardingCompletedChanged)
 
@@ -53,15 +50,6 @@ public:
     /// The settings cover the grid. Written by header, status menu and settings panel.
     bool showSettings() const { return m_showSettings; }
     void setShowSettings(bool value);
-    /// A widget is being dragged. Set by the grid view, cleared by the controller.
-    bool isDragging() const { return m_isDragging; }
-    void setDragging(bool value);
-    /// The widget whose options side is showing. Written by the tile view.
-    const std::optional<QUuid> &flippedWidgetID() const { return m_flippedWidgetID; }
-    void setFlippedWidgetID(const std::optional<QUuid> &value);
-    /// An overlay that owns the panel is open; swipes are ignored. Written by gallery and tile view.
-    bool optionsOpen() const { return m_optionsOpen; }
-    void setOptionsOpen(bool value);
     /// The heads-up display now showing. Written by the controller only.
     const std::optional<HUDType> &hudType() const { return m_hudType; }
     void setHudType(const std::optional<HUDType> &value);
@@ -75,9 +63,6 @@ Q_SIGNALS:
     void currentPageChanged();
     void geometryChanged();
     void showSettingsChanged();
-    void isDraggingChanged();
-    void flippedWidgetIDChanged();
-    void optionsOpenChanged();
     void hudTypeChanged();
     void onboardingCompletedChanged();
 
@@ -88,9 +73,6 @@ private:
     int m_currentPage = 0;
     NotchGeometry m_geometry;
     bool m_showSettings = false;
-    bool m_isDragging = false;
-    std::optional<QUuid> m_flippedWidgetID;
-    bool m_optionsOpen = false;
     std::optional<HUDType> m_hudType;
     bool m_onboardingCompleted;
 };

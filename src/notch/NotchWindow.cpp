@@ -21,6 +21,19 @@ bool takesText(const QQuickItem *item)
     return item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
 }
 
+/// Text fields take the keyboard, and so do menus and the gallery while they are open: Escape must reach
+/// them.
+bool takesKeyboard(const QQuickItem *item)
+{
+    if (takesText(item))
+        return true;
+    for (; item; item = item->parentItem()) {
+        if (item->property("takesKeyboard").toBool())
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 NotchWindow::NotchWindow(const SurfaceFactory &makeSurface)
@@ -32,7 +45,7 @@ NotchWindow::NotchWindow(const SurfaceFactory &makeSurface)
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_surface = makeSurface(m_view);
     connect(&m_view, &QQuickWindow::activeFocusItemChanged, this,
-            [this] { m_surface->setWantsKeyboard(takesText(m_view.activeFocusItem())); });
+            [this] { m_surface->setWantsKeyboard(takesKeyboard(m_view.activeFocusItem())); });
     // When somebody else has taken the keyboard, the text field is left, so that the next click asks for it
     // again.
     connect(&m_view, &QWindow::activeChanged, this, [this] {
@@ -47,6 +60,7 @@ void NotchWindow::host(NotchController &controller)
 {
     m_translator = std::make_unique<UiTranslator>(*controller.appSettings());
     connect(controller.appSettings(), &AppSettings::languageChanged, &m_engine, &QQmlEngine::retranslate);
+    controller.motion().installOn(m_engine);
     m_view.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
     connect(controller.viewModel(), &NotchViewModel::isExpandedChanged, this, [this, &controller] {
         if (!controller.viewModel()->isExpanded())

@@ -1,0 +1,160 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Notch
+
+// The row at the top of the open panel: title and pages on the left, buttons on the right.
+Item {
+    id: root
+
+    required property NotchController controller
+    readonly property NotchViewModel viewModel: controller.viewModel
+    readonly property theme colors: controller.theme.current
+
+    signal galleryRequested
+
+    height: 24
+
+    Row {
+        anchors.left: parent.left
+        anchors.leftMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 12
+
+        Row {
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 6
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: 6
+                height: 6
+                radius: 3
+                color: root.colors.accent
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.viewModel.showSettings ? qsTr("Settings") : qsTr("Brimlight")
+                color: root.colors.textPrimary
+                font.family: Fonts.rounded
+                font.pixelSize: 12
+                font.bold: true
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+        }
+
+        Row {
+            id: pages
+
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 5
+            visible: !root.viewModel.showSettings
+
+            Repeater {
+                model: root.controller.pageControls.shown
+
+                Item {
+                    id: capsule
+
+                    required property int index
+                    readonly property int page: root.controller.pageControls.first + index
+                    readonly property bool current: page === root.viewModel.currentPage
+
+                    width: bar.width
+                    height: 16
+                    activeFocusOnTab: true
+                    Accessible.role: Accessible.PageTab
+                    Accessible.name: (page + 1).toString()
+                    Accessible.selected: current
+                    Accessible.onPressAction: root.viewModel.currentPage = page
+                    Keys.onReturnPressed: root.viewModel.currentPage = page
+                    Keys.onSpacePressed: root.viewModel.currentPage = page
+
+                    Rectangle {
+                        id: bar
+
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: capsule.current ? 16 : 6
+                        height: 6
+                        radius: 3
+                        color: capsule.current ? root.colors.accent : Qt.alpha(root.colors.textPrimary, capsule.activeFocus ? 0.8 : 0.35)
+
+                        Behavior on width {
+                            NumberAnimation {
+                                duration: Motion.dots.duration
+                                easing: Motion.dots.easing
+                            }
+                        }
+                    }
+                    TapHandler {
+                        margin: 2
+                        gesturePolicy: TapHandler.ReleaseWithinBounds
+                        onTapped: root.viewModel.currentPage = capsule.page
+                    }
+                }
+            }
+            IconButton {
+                id: addPage
+
+                anchors.verticalCenter: parent.verticalCenter
+                width: 16
+                height: 16
+                symbol: "plus.circle.fill"
+                symbolSize: 12
+                label: "Add page"
+                color: root.colors.textSecondary
+                onClicked: root.controller.pageControls.addPage()
+
+                ToolTipLabel {
+                    text: addPage.label
+                    shown: addPageHover.hovered
+                    colors: root.colors
+                    anchors.top: parent.bottom
+                    anchors.topMargin: 5
+                }
+                HoverHandler {
+                    id: addPageHover
+                }
+            }
+        }
+    }
+
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        spacing: 8
+
+        NotchHeaderButton {
+            visible: !root.viewModel.showSettings
+            colors: root.colors
+            systemImage: "plus"
+            help: qsTr("Add widget")
+            onClicked: root.galleryRequested()
+        }
+        NotchHeaderButton {
+            visible: !root.viewModel.showSettings
+            colors: root.colors
+            systemImage: root.viewModel.isPinned ? "pin.fill" : "pin"
+            help: qsTr("Keep open")
+            tinted: root.viewModel.isPinned
+            onClicked: root.controller.togglePin()
+        }
+        NotchHeaderButton {
+            visible: !root.viewModel.showSettings
+            colors: root.colors
+            systemImage: "gearshape"
+            help: qsTr("Settings")
+            onClicked: root.controller.openSettings()
+        }
+        NotchHeaderButton {
+            visible: root.viewModel.showSettings
+            colors: root.colors
+            systemImage: "chevron.left"
+            help: qsTr("Back")
+            tinted: true
+            onClicked: root.viewModel.showSettings = false
+        }
+    }
+}

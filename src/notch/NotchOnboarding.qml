@@ -1,0 +1,159 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Notch
+
+// The first-run walk-through.
+Item {
+    id: root
+
+    required property NotchController controller
+    readonly property theme colors: controller.theme.current
+    readonly property bool live: controller.viewModel.isExpanded
+
+    OnboardingSteps {
+        id: steps
+    }
+
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: parent.top
+        anchors.topMargin: 8
+        spacing: 12
+
+        Item {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 72
+            height: 72
+
+            Rectangle {
+                anchors.fill: parent
+                radius: width / 2
+                color: root.colors.accent
+                opacity: 0.06
+                scale: pulse.scale * 1.12
+            }
+            Rectangle {
+                id: pulse
+
+                anchors.fill: parent
+                radius: width / 2
+                color: "transparent"
+                border.width: 2
+                border.color: root.colors.accent
+                opacity: 0.4
+
+                SequentialAnimation on scale {
+                    running: root.live && root.visible && !Motion.reduced
+                    loops: Animation.Infinite
+
+                    NumberAnimation {
+                        from: 1
+                        to: 1.15
+                        duration: 2000
+                        easing.type: Easing.InOutQuad
+                    }
+                    NumberAnimation {
+                        from: 1.15
+                        to: 1
+                        duration: 2000
+                        easing.type: Easing.InOutQuad
+                    }
+                }
+            }
+            Rectangle {
+                anchors.fill: parent
+                radius: width / 2
+                color: root.colors.accent
+                opacity: 0.15
+            }
+            Symbol {
+                anchors.centerIn: parent
+                name: steps.icon
+                size: 36
+                color: root.colors.accent
+            }
+        }
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: steps.current >= 0 ? qsTr(steps.title()) : ""
+            color: root.colors.textPrimary
+            font.family: Fonts.rounded
+            font.pixelSize: 17
+            font.weight: Font.Bold
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: root.width - 96
+            text: steps.current >= 0 ? qsTr(steps.description()) : ""
+            color: root.colors.textSecondary
+            wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignHCenter
+            font.family: Fonts.rounded
+            font.pixelSize: 12
+            lineHeight: 1.15
+        }
+    }
+
+    Row {
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.margins: 16
+        spacing: 8
+
+        TextButton {
+            visible: !steps.isLast
+            text: qsTr("Skip")
+            colors: root.colors
+            onClicked: root.controller.viewModel.onboardingCompleted = true
+        }
+        TextButton {
+            visible: steps.hasBack
+            text: qsTr("Back")
+            colors: root.colors
+            onClicked: steps.back()
+        }
+    }
+    Row {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 27
+        spacing: 6
+
+        Repeater {
+            model: steps.count
+
+            Rectangle {
+                required property int index
+
+                width: index === steps.current ? 16 : 6
+                height: 6
+                radius: 3
+                color: index === steps.current ? root.colors.accent : Qt.alpha(root.colors.textPrimary, 0.3)
+
+                Behavior on width {
+                    NumberAnimation {
+                        duration: Motion.onboarding.duration
+                        easing: Motion.onboarding.easing
+                    }
+                }
+            }
+        }
+    }
+    TextButton {
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 16
+        text: steps.isLast ? qsTr("Get Started") : qsTr("Next")
+        colors: root.colors
+        prominent: true
+        onClicked: {
+            if (steps.isLast)
+                root.controller.viewModel.onboardingCompleted = true;
+            else
+                steps.next();
+        }
+    }
+}

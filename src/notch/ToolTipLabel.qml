@@ -1,0 +1,43 @@
+import QtQuick
+import Brimlight.Theme
+
+// A short text beside a control on which the pointer rests.
+Rectangle {
+    id: root
+
+    required property string text
+    required property bool shown
+    required property theme colors
+
+    visible: opacity > 0
+    opacity: timer.due && shown ? 1 : 0
+    z: 10
+    width: label.implicitWidth + 12
+    height: label.implicitHeight + 6
+    radius: 5
+    color: Qt.rgba(0.12, 0.12, 0.14, 0.98)
+    border.color: Qt.rgba(1, 1, 1, 0.14)
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        text: root.text
+        color: root.colors.textPrimary
+        font.family: Fonts.rounded
+        font.pixelSize: 10
+    }
+    Timer {
+        id: timer
+
+        property bool due: false
+
+        interval: 700
+        running: root.shown
+        onTriggered: due = true
+        onRunningChanged: {
+            if (running)
+                due = false;
+        }
+    }
+}
