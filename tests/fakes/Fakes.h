@@ -160,6 +160,27 @@ public:
     QMap<int, std::function<void()>> actions;
 };
 
+class FakeAppearance : public Appearance
+{
+public:
+    bool reducesMotion() const override { return reducedMotion; }
+    bool reducesTransparency() const override { return reducedTransparency; }
+    void observeChanges(std::function<void()> changed) override { notify = std::move(changed); }
+
+    /// As the user changes the settings of the desktop.
+    void set(bool motion, bool transparency)
+    {
+        reducedMotion = motion;
+        reducedTransparency = transparency;
+        if (notify)
+            notify();
+    }
+
+    bool reducedMotion = false;
+    bool reducedTransparency = false;
+    std::function<void()> notify;
+};
+
 class FakeSurface : public OverlaySurface
 {
 public:
@@ -169,6 +190,7 @@ public:
     void setOutlines(const std::vector<SurfaceOutline> &newOutlines) override { outlines = newOutlines; }
     void setSensor(const Rect &strip) override { sensor = strip; }
     void setWantsKeyboard(bool wants) override { wantsKeyboard = wants; }
+    SurfaceBackdrop backdrop() const override { return currentBackdrop; }
 
     Rect extent() const { return extents.empty() ? Rect{} : extents.back(); }
 
@@ -178,6 +200,7 @@ public:
     std::vector<SurfaceOutline> outlines;
     Rect sensor;
     bool wantsKeyboard = false;
+    SurfaceBackdrop currentBackdrop = SurfaceBackdrop::opaque;
 };
 
 class FakeHosting : public NotchHosting

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "fakes/Fakes.h"
+#include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
 
 #include <gtest/gtest.h>
+
+#include <QTemporaryDir>
 
 #include <optional>
 
@@ -18,13 +21,14 @@ class ControllerTest : public testing::Test
 protected:
     ControllerTest()
     {
+        folders.support = support.path();
         screens.setPlain(1440, 900);
         defaults.values.insert(QStringLiteral("brimlight.onboardingCompleted"), true);
     }
 
     void start()
     {
-        controller.emplace(platform, hosting, log);
+        controller.emplace(platform, hosting, log, widgets);
         controller->show();
         scheduler.runPosted();
     }
@@ -88,14 +92,17 @@ protected:
 
     ManualScheduler scheduler;
     MemoryDefaults defaults;
+    const QTemporaryDir support;
     FakeFolders folders;
     RecordingLog recorded;
     FakeScreens screens;
     FakePointer pointer;
     FakeSignals unixSignals;
-    Platform platform{scheduler, defaults, folders, recorded, screens, pointer, unixSignals};
+    FakeAppearance appearance;
+    Platform platform{scheduler, defaults, folders, recorded, screens, pointer, unixSignals, appearance};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
+    const WidgetRegistry widgets{{}};
     std::optional<NotchController> controller;
 
 private:

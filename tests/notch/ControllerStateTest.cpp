@@ -19,7 +19,7 @@ TEST_F(State, StartsCollapsedUnpinnedOnTheFirstPage)
 
 TEST_F(State, ConstructionPlacesNothingOnScreen)
 {
-    controller.emplace(platform, hosting, log);
+    controller.emplace(platform, hosting, log, widgets);
     EXPECT_FALSE(surface().isFront);
     EXPECT_TRUE(lines().isEmpty());
 }

@@ -80,7 +80,8 @@ TEST_F(Panel, WhatIsDrawnIsWhatTakesThePointer)
     expand();
     panel.finishAnimation();
     ASSERT_EQ(surface.outlines.size(), 1u);
-    EXPECT_EQ(surface.outlines.front(), (SurfaceOutline{.frame = open, .bottomRadius = 32}));
+    EXPECT_EQ(surface.outlines.front(),
+              (SurfaceOutline{.frame = open, .bottomRadius = 32, .blursBehind = true}));
 }
 
 TEST_F(Panel, TheTopEdgeNeverLeavesTheScreensEdge)

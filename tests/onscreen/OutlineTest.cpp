@@ -26,7 +26,7 @@ protected:
             for (int column = 0; column < now.width(); ++column) {
                 switch (coverage(QPoint(column, row), frame)) {
                 case Coverage::none:
-                    if (differs(column, row))
+                    if (differs(column, row) && !isShadow(now.pixel(column, row), bare.pixel(column, row)))
                         return false;
                     break;
                 case Coverage::full:
@@ -42,6 +42,14 @@ protected:
     }
 
 private:
+    /// A compositor shows the panel's shadow around it: darker than the wallpaper, never by much.
+    bool isShadow(QRgb now, QRgb wallpaper) const
+    {
+        const auto fits = [](int seen, int under) { return seen <= under && seen >= under / 2 - 1; };
+        return x.isComposited() && fits(qRed(now), qRed(wallpaper)) && fits(qGreen(now), qGreen(wallpaper)) &&
+               fits(qBlue(now), qBlue(wallpaper));
+    }
+
     enum class Coverage { none, partial, full };
 
     static Coverage coverage(QPoint point, const QRect &frame)

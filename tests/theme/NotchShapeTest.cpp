@@ -1,4 +1,4 @@
-#include "notch/NotchShape.h"
+#include "theme/NotchShape.h"
 
 #include <gtest/gtest.h>
 

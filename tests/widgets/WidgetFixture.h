@@ -1,0 +1,33 @@
+#pragma once
+
+#include "fakes/Fakes.h"
+#include "grid/GridStore.h"
+#include "grid/WidgetContext.h"
+#include "grid/WidgetEnvironment.h"
+#include "grid/WidgetRegistry.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+namespace brimlight::test {
+
+/// A widget's surroundings on fakes; it is Saturday, 14 March 2026, 9:26:53 UTC.
+class WidgetTest : public testing::Test
+{
+protected:
+    QTemporaryDir dir;
+    ManualScheduler scheduler;
+    MemoryDefaults defaults;
+    RecordingLog recorded;
+    TraceLog log{recorded, {}};
+    WidgetRegistry registry{{}};
+    GridStore grid{dir.filePath(QStringLiteral("grid.json")), registry};
+    ThemeStore theme{dir.filePath(QStringLiteral("theme.json")), defaults, recorded};
+    AppSettings settings{defaults};
+    TickCoordinator ticker{scheduler, log};
+    WidgetEnvironment environment{registry, grid, theme, settings, ticker, {}};
+    WidgetContext context{environment};
+};
+
+} // namespace brimlight::test
