@@ -2,9 +2,9 @@
 //
 // Setting a preference is written through to the disk: its time is that of the file system behind TMPDIR.
 
-#include "notch/NotchShape.h"
 #include "platform/linux/JsonUserDefaults.h"
 #include "platform/linux/X11OverlaySurface.h"
+#include "theme/NotchShape.h"
 #include "theme/Spring.h"
 
 #include <benchmark/benchmark.h>
