@@ -21,7 +21,7 @@ WidgetRenderer::WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme)
 {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     m_window.setColor(QColor::fromRgbF(0.04F, 0.06F, 0.11F));
-    m_control.initialize();
+    m_motion.installOn(m_engine);
 }
 
 WidgetRenderer::~WidgetRenderer() = default;

@@ -11,7 +11,8 @@ namespace brimlight {
 
 QList<GridCell> freeCells(const GridStore &grid, qint64 page, int rows)
 {
-    std::bitset<gridColumns * gridRows> covered;
+    constexpr size_t cellCount = size_t{gridColumns} * gridRows;
+    std::bitset<cellCount> covered;
     for (const WidgetInstance &tile : grid.instances(page)) {
         if (!tile.isPlaced())
             continue;

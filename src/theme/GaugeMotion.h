@@ -14,10 +14,13 @@ struct GaugeMotion
     std::chrono::milliseconds duration;
     QEasingCurve easing;
 
+    /// Ends where the eye sees no more of it, a hundredth from the goal: what moves at every tick must not
+    /// keep the renderer busy with a tail of equal frames.
     static GaugeMotion spring(std::chrono::duration<double> response, double dampingFraction)
     {
+        constexpr double unseen = 0.01;
         const Spring spring(response, dampingFraction);
-        return {spring.settlingTime(), spring.easing()};
+        return {spring.settlingTime(unseen), spring.easing(unseen)};
     }
 
     /// A ring following its value.

@@ -7,11 +7,6 @@
 #include <numbers>
 
 namespace brimlight {
-namespace {
-
-constexpr double settledWithin = 0.001;
-
-} // namespace
 
 double Spring::value(std::chrono::duration<double> time) const
 {
@@ -39,25 +34,25 @@ double Spring::velocity(double seconds) const
            (seconds + h - before);
 }
 
-std::chrono::milliseconds Spring::settlingTime() const
+std::chrono::milliseconds Spring::settlingTime(double within) const
 {
     // The last moment outside the band, found from behind: the slowest mode bounds where to begin.
     const double omega = 2 * std::numbers::pi / m_response;
     const double rate =
         m_damping <= 1 ? m_damping * omega : omega * (m_damping - std::sqrt(m_damping * m_damping - 1));
-    const auto bound = static_cast<long>(std::ceil(1000 * 2 * std::log(1 / settledWithin) / rate));
+    const auto bound = static_cast<long>(std::ceil(1000 * 2 * std::log(1 / within) / rate));
     for (long ms = bound; ms > 0; --ms) {
-        if (std::abs(1 - value(std::chrono::milliseconds(ms))) > settledWithin)
+        if (std::abs(1 - value(std::chrono::milliseconds(ms))) > within)
             return std::chrono::milliseconds(ms + 1);
     }
     return std::chrono::milliseconds(1);
 }
 
-QEasingCurve Spring::easing() const
+QEasingCurve Spring::easing(double within) const
 {
     // Cubic Hermite pieces written as Bezier segments; eight follow the closed form to within a thousandth.
     constexpr int pieces = 8;
-    const double total = std::chrono::duration<double>(settlingTime()).count();
+    const double total = std::chrono::duration<double>(settlingTime(within)).count();
     const auto at = [&](double progress) { return value(std::chrono::duration<double>(progress * total)); };
     QEasingCurve curve(QEasingCurve::BezierSpline);
     for (int i = 0; i < pieces; ++i) {

@@ -24,11 +24,11 @@ public:
     /// From 0 at the start to 1 at rest; `time` counts from the start.
     double value(std::chrono::duration<double> time) const;
 
-    /// The time after which the value stays within 0.001 of its goal.
-    std::chrono::milliseconds settlingTime() const;
+    /// The time after which the value stays within this distance of its goal.
+    std::chrono::milliseconds settlingTime(double within = 0.001) const;
 
-    /// The same motion as an easing curve over `settlingTime()`.
-    QEasingCurve easing() const;
+    /// The same motion as an easing curve over `settlingTime(within)`, which ends at the goal.
+    QEasingCurve easing(double within = 0.001) const;
 
 private:
     double velocity(double seconds) const;

@@ -42,6 +42,8 @@ Item {
 
         RingGauge {
             anchors.fill: parent
+            // Half of the line and the glow stand outside of the ring's own circle.
+            anchors.margins: 4
             value: progress.day
             lineWidth: 6
             tint: root.colors.accent
