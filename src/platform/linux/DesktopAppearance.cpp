@@ -48,14 +48,25 @@ void DesktopAppearance::readAll()
     QDBusMessage call = QDBusMessage::createMethodCall(portalService(), portalPath(), settingsInterface(),
                                                        QStringLiteral("ReadAll"));
     call << AppearanceWishes::groups();
+    ++m_readings;
     callDBus(*m_bus, call, *this, [this](const std::optional<QVariantList> &reply) {
-        if (const auto values = portalValues(reply.value_or(QVariantList())))
-            take(AppearanceWishes::of(*values));
+        --m_readings;
+        if (const auto values = portalValues(reply.value_or(QVariantList()))) {
+            AppearanceWishes wishes = AppearanceWishes::of(*values);
+            for (const Change &change : m_overtaking)
+                wishes.set(change.group, change.key, change.value);
+            take(wishes);
+        }
+        if (m_readings == 0)
+            m_overtaking.clear();
     });
 }
 
 void DesktopAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value)
 {
+    // Qt may deliver a change before the answer that was sent ahead of it: the answer must not undo it.
+    if (m_readings > 0)
+        m_overtaking.append({group, key, value.variant()});
     AppearanceWishes wishes = m_wishes;
     wishes.set(group, key, value.variant());
     take(wishes);

@@ -6,6 +6,7 @@
 #include "platform/linux/PortalSettings.h"
 
 #include <QDBusVariant>
+#include <QList>
 #include <QObject>
 
 namespace brimlight {
@@ -37,6 +38,15 @@ private:
 
     std::optional<QDBusConnection> m_bus;
     AppearanceWishes m_wishes;
+    struct Change
+    {
+        QString group;
+        QString key;
+        QVariant value;
+    };
+    /// Answers that are still to come, and what has changed meanwhile.
+    int m_readings = 0;
+    QList<Change> m_overtaking;
     std::function<void()> m_changed;
     std::unique_ptr<Scheduled> m_start;
 };
