@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 namespace {
 
@@ -27,5 +28,8 @@ int main(int argc, char **argv)
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(failOnWarning);
     const QGuiApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    // A bus that is still being opened posts to the application object.
+    QThreadPool::globalInstance()->waitForDone();
+    return status;
 }

@@ -7,6 +7,7 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <QThreadPool>
 
 #include <cstdio>
 
@@ -44,7 +45,10 @@ int run(int argc, char **argv)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
-    return QGuiApplication::exec();
+    const int status = QGuiApplication::exec();
+    // A bus that is still being opened posts to the application object.
+    QThreadPool::globalInstance()->waitForDone();
+    return status;
 }
 
 } // namespace brimlight::BrimlightApp

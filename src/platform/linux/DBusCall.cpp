@@ -16,19 +16,20 @@ QDBusConnection sessionBus()
 void openBus(QObject &context, std::function<QDBusConnection()> open,
              std::function<void(QDBusConnection)> opened)
 {
-    QThreadPool::globalInstance()->start(
-        [guard = QPointer(&context), open = std::move(open), opened = std::move(opened)] {
-            const QDBusConnection bus = open();
-            // Through the application object, which outlives the pool: the context may go at any time and is
-            // looked at on its own thread alone.
-            QMetaObject::invokeMethod(
-                QCoreApplication::instance(),
-                [guard, opened, bus] {
-                    if (guard)
-                        opened(bus);
-                },
-                Qt::QueuedConnection);
-        });
+    QThreadPool::globalInstance()->start([application = QCoreApplication::instance(),
+                                          guard = QPointer(&context), open = std::move(open),
+                                          opened = std::move(opened)] {
+        const QDBusConnection bus = open();
+        // Through the application object, which the program keeps until the pool is done, but is no longer the
+        // `instance()` then. The context may go at any time and is looked at on its own thread alone.
+        QMetaObject::invokeMethod(
+            application,
+            [guard, opened, bus] {
+                if (guard)
+                    opened(bus);
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 void callDBus(const QDBusConnection &bus, const QDBusMessage &call, QObject &context,
