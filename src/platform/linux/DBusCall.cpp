@@ -20,8 +20,8 @@ void openBus(QObject &context, std::function<QDBusConnection()> open,
                                           guard = QPointer(&context), open = std::move(open),
                                           opened = std::move(opened)] {
         const QDBusConnection bus = open();
-        // Through the application object, which the program keeps until the pool is done, but is no longer the
-        // `instance()` then. The context may go at any time and is looked at on its own thread alone.
+        // Through the application object, which the program keeps until the pool is done, but is no longer
+        // the `instance()` then. The context may go at any time and is looked at on its own thread alone.
         QMetaObject::invokeMethod(
             application,
             [guard, opened, bus] {
