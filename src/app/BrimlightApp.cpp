@@ -7,9 +7,9 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <QThreadPool>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace brimlight::BrimlightApp {
 namespace {
@@ -43,12 +43,16 @@ int run(int argc, char **argv)
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("brimlight"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    AppDelegate delegate;
-    delegate.applicationDidFinishLaunching();
-    const int status = QGuiApplication::exec();
-    // A bus that is still being opened posts to the application object.
-    QThreadPool::globalInstance()->waitForDone();
-    return status;
+    int status = 0;
+    {
+        AppDelegate delegate;
+        delegate.applicationDidFinishLaunching();
+        status = QGuiApplication::exec();
+    }
+    // The thread of the bus may be at work, even wait for its daemon, and looks at the application object, so
+    // that is not taken from under it. Everything has been saved.
+    std::fflush(nullptr);
+    std::_Exit(status);
 }
 
 } // namespace brimlight::BrimlightApp

@@ -148,10 +148,9 @@ Item {
     HoverHandler {
         id: hover
     }
-    TapHandler {
+    Tap {
         id: tap
 
-        gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: root.chosen()
     }
 }

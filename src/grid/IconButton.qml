@@ -33,8 +33,7 @@ Item {
         size: root.symbolSize
         color: root.color
     }
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
+    Tap {
         onTapped: root.clicked()
     }
 }

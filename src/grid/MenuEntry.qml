@@ -66,8 +66,7 @@ Item {
     HoverHandler {
         id: hover
     }
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
+    Tap {
         onTapped: root.triggered()
     }
 }

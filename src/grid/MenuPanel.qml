@@ -19,9 +19,7 @@ Item {
         border.color: Qt.rgba(1, 1, 1, 0.14)
     }
     // Clicks between the entries must not reach what lies below.
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-    }
+    Tap {}
 
     Column {
         id: column

@@ -72,8 +72,7 @@ Item {
                     HoverHandler {
                         id: hover
                     }
-                    TapHandler {
-                        gesturePolicy: TapHandler.ReleaseWithinBounds
+                    Tap {
                         onTapped: root.chosen(root.values[segment.index])
                     }
                 }

@@ -15,8 +15,7 @@ Item {
 
     signal closeRequested
 
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
+    Tap {
         onTapped: {
             if (root.closesOnTap)
                 root.closeRequested();

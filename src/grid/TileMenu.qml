@@ -46,9 +46,8 @@ Item {
     Keys.onLeftPressed: sizesOpen = false
 
     // A click anywhere else closes.
-    TapHandler {
+    Tap {
         acceptedButtons: Qt.LeftButton | Qt.RightButton
-        gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: root.close()
     }
 

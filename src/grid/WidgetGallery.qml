@@ -30,9 +30,7 @@ Item {
         color: Qt.rgba(root.theme.current.surface.r, root.theme.current.surface.g, root.theme.current.surface.b, 1)
         border.color: Qt.rgba(1, 1, 1, 0.08)
     }
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-    }
+    Tap {}
 
     Text {
         id: heading

@@ -110,12 +110,9 @@ Item {
         id: hover
     }
     // A tap on a tile is the tile's own: it must not reach the bare surface and close the panel.
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-    }
-    TapHandler {
+    Tap {}
+    Tap {
         acceptedButtons: Qt.RightButton
-        gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: point => root.menuRequested(point.position)
     }
     DragHandler {
@@ -140,6 +137,7 @@ Item {
         theme: root.theme.current
         strength: root.theme.glassStrength
         focused: hover.hovered || root.activeFocus
+        solid: root.isOneRow && root.angle > 0
         reduceTransparency: Motion.opaque
     }
 

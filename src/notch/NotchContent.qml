@@ -109,6 +109,8 @@ Item {
     Item {
         anchors.fill: parent
         visible: opacity > 0
+        // What fades away catches no clicks.
+        enabled: root.galleryOpen
         opacity: root.galleryOpen ? 1 : 0
 
         Behavior on opacity {
@@ -122,8 +124,7 @@ Item {
             anchors.fill: parent
             color: Qt.rgba(0, 0, 0, 0.55)
 
-            TapHandler {
-                gesturePolicy: TapHandler.ReleaseWithinBounds
+            Tap {
                 onTapped: root.closeGallery()
             }
         }

@@ -88,9 +88,8 @@ Item {
                             }
                         }
                     }
-                    TapHandler {
+                    Tap {
                         margin: 2
-                        gesturePolicy: TapHandler.ReleaseWithinBounds
                         onTapped: root.viewModel.currentPage = capsule.page
                     }
                 }

@@ -47,8 +47,7 @@ Item {
     HoverHandler {
         id: hover
     }
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
+    Tap {
         onTapped: root.clicked()
     }
     ToolTipLabel {

@@ -37,8 +37,7 @@ Item {
         Item {
             anchors.fill: parent
 
-            TapHandler {
-                gesturePolicy: TapHandler.ReleaseWithinBounds
+            Tap {
                 onTapped: root.controller.tap()
             }
         }

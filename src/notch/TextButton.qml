@@ -42,10 +42,9 @@ Item {
     HoverHandler {
         id: hover
     }
-    TapHandler {
+    Tap {
         id: tap
 
-        gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: root.clicked()
     }
 }

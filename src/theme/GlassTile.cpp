@@ -48,6 +48,11 @@ QImage paintLayers(const TileLook &look, QSize pixels)
     QPainter painter(&image);
     painter.scale(ratio, ratio);
     // The layers fill the whole rectangle; the shape is cut out once, so that its edge does not add up.
+    if (look.solid) {
+        ThemeColor ground = look.theme.surface;
+        ground.opacity = 1;
+        painter.fillRect(rect, ground.toColor());
+    }
     painter.fillRect(rect, QColor::fromRgbF(0, 0, 0, tileVeil(look.strength, look.reduceTransparency)));
     painter.fillRect(rect, look.theme.surfaceElevatedColor());
     painter.fillRect(rect,

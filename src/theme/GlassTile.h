@@ -13,6 +13,8 @@ struct TileLook
     double strength = 0;
     bool focused = false;
     bool reduceTransparency = false;
+    /// Nothing beneath shines through.
+    bool solid = false;
     /// Points.
     double radius = 22;
     double devicePixelRatio = 1;

@@ -14,13 +14,14 @@ namespace {
 
 QString cacheKey(const glass::TileLook &look, QSize pixels)
 {
-    QString key = QStringLiteral("brimlight.tile %1x%2 %3 %4 %5%6%7 %8")
+    QString key = QStringLiteral("brimlight.tile %1x%2 %3 %4 %5%6%7%8 %9")
                       .arg(pixels.width())
                       .arg(pixels.height())
                       .arg(look.devicePixelRatio)
                       .arg(look.radius)
                       .arg(look.focused)
                       .arg(look.reduceTransparency)
+                      .arg(look.solid)
                       .arg(look.shadows)
                       .arg(look.strength);
     for (const QColor &color :
@@ -128,6 +129,12 @@ void GlassTileBackground::setFocusLevel(double level)
 void GlassTileBackground::setReduceTransparency(bool reduce)
 {
     m_look.reduceTransparency = reduce;
+    Q_EMIT changed();
+}
+
+void GlassTileBackground::setSolid(bool solid)
+{
+    m_look.solid = solid;
     Q_EMIT changed();
 }
 

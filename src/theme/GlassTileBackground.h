@@ -23,6 +23,7 @@ class GlassTileBackground : public QQuickItem
     Q_PROPERTY(bool focused READ focused WRITE setFocused NOTIFY changed)
     Q_PROPERTY(double focusLevel READ focusLevel WRITE setFocusLevel NOTIFY changed)
     Q_PROPERTY(bool reduceTransparency READ reduceTransparency WRITE setReduceTransparency NOTIFY changed)
+    Q_PROPERTY(bool solid READ solid WRITE setSolid NOTIFY changed)
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY changed)
     Q_PROPERTY(bool shadows READ shadows WRITE setShadows NOTIFY changed)
 
@@ -42,6 +43,9 @@ public:
     void setFocusLevel(double level);
     bool reduceTransparency() const { return m_look.reduceTransparency; }
     void setReduceTransparency(bool reduce);
+    /// Nothing beneath shines through, for a tile that covers others. False at first.
+    bool solid() const { return m_look.solid; }
+    void setSolid(bool solid);
     /// Of the continuous corners, in points; 22 at first.
     double radius() const { return m_look.radius; }
     void setRadius(double radius);

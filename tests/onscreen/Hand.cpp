@@ -15,10 +15,21 @@ void Hand::moveTo(QPoint point, milliseconds after) const
     m_x.flush();
 }
 
-void Hand::clickAt(QPoint point) const
+void Hand::clickAt(QPoint point, uint8_t button) const
 {
     moveTo(point);
+    fake(XCB_BUTTON_PRESS, button);
+    fake(XCB_BUTTON_RELEASE, button);
+    m_x.flush();
+}
+
+void Hand::drag(QPoint from, QPoint to) const
+{
+    constexpr int steps = 20;
+    moveTo(from);
     fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
+    for (int i = 1; i <= steps; ++i)
+        moveTo(from + (to - from) * i / steps, milliseconds(15));
     fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
     m_x.flush();
 }

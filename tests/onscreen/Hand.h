@@ -17,7 +17,10 @@ public:
     /// The server waits for `after` before it carries the motion out: what must be quick does not depend on
     /// how busy the test is.
     void moveTo(QPoint point, milliseconds after = milliseconds(0)) const;
-    void clickAt(QPoint point) const;
+    /// Button 1 is the left one, 3 the right one.
+    void clickAt(QPoint point, uint8_t button = 1) const;
+    /// With the left button, in the small steps of a hand.
+    void drag(QPoint from, QPoint to) const;
     /// Wheel steps without a pause: button 4 is up, 5 down, 6 left, 7 right.
     void scroll(uint8_t button, int steps) const;
     void typeKey(uint32_t keysym) const;

@@ -1,0 +1,327 @@
+#include "platform/linux/DesktopAppearance.h"
+
+#include "fakes/ManualScheduler.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QEventLoop>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace brimlight::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString freedesktop = QStringLiteral("org.freedesktop.appearance");
+const QString gnome = QStringLiteral("org.gnome.desktop.interface");
+const QString gnomeAccess = QStringLiteral("org.gnome.desktop.a11y.interface");
+const QString plasma = QStringLiteral("org.kde.kdeglobals.KDE");
+const QString animations = QStringLiteral("enable-animations");
+const QString contrast = QStringLiteral("contrast");
+const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
+
+bool waitFor(const std::function<bool()> &condition)
+{
+    QEventLoop loop;
+    QTimer guard;
+    bool timedOut = false;
+    QObject::connect(&guard, &QTimer::timeout, [&] { timedOut = true; });
+    guard.start(5s);
+    while (!condition() && !timedOut)
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    return condition();
+}
+
+/// A bus of its own that starts no services.
+class PrivateBus
+{
+public:
+    PrivateBus()
+    {
+        QFile configuration(m_folder.filePath(QStringLiteral("bus.conf")));
+        if (!configuration.open(QIODevice::WriteOnly))
+            return;
+        configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
+                            "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
+                            "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
+        configuration.close();
+        m_daemon.start(QStringLiteral("dbus-daemon"),
+                       {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
+                        QStringLiteral("--print-address"),
+                        QStringLiteral("--config-file=%1").arg(configuration.fileName())});
+        while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(5000)) {
+        }
+        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
+    }
+    ~PrivateBus()
+    {
+        m_daemon.terminate();
+        m_daemon.waitForFinished();
+    }
+
+    const QString &address() const { return m_address; }
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_daemon;
+    QString m_address;
+};
+
+/// A connection of its own, closed in the end.
+class Connection
+{
+public:
+    Connection(const QString &address, const QString &name)
+        : m_name(name)
+        , bus(QDBusConnection::connectToBus(address, name))
+    {
+    }
+    ~Connection() { QDBusConnection::disconnectFromBus(m_name); }
+
+private:
+    QString m_name;
+
+public:
+    QDBusConnection bus;
+};
+
+class FakePortal : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    explicit FakePortal(const QString &address)
+        : m_connection(address, QStringLiteral("portal"))
+    {
+        qDBusRegisterMetaType<PortalValues>();
+        m_connection.bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+                                        QDBusConnection::ExportScriptableContents);
+    }
+
+    void appear() { EXPECT_TRUE(m_connection.bus.registerService(portalName)); }
+    void vanish() { EXPECT_TRUE(m_connection.bus.unregisterService(portalName)); }
+    void change(const QString &group, const QString &key, const QVariant &value)
+    {
+        values[group][key] = value;
+        Q_EMIT SettingChanged(group, key, QDBusVariant(value));
+    }
+
+    PortalValues values;
+    QStringList asked;
+
+public Q_SLOTS:
+    Q_SCRIPTABLE PortalValues ReadAll(const QStringList &groups) // NOLINT(readability-identifier-naming)
+    {
+        asked = groups;
+        return values;
+    }
+
+Q_SIGNALS:
+    Q_SCRIPTABLE void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+
+private:
+    Connection m_connection;
+};
+
+class DesktopAppearanceTest : public testing::Test
+{
+protected:
+    DesktopAppearanceTest()
+    {
+        appearance.observeChanges([this] { ++changes; });
+    }
+    ~DesktopAppearanceTest() override { QDBusConnection::disconnectFromBus(QStringLiteral("appearance")); }
+
+    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "dbus-daemon does not start"; }
+
+    void begin() { scheduler.advance(DesktopAppearance::startDelay); }
+
+    PrivateBus bus;
+    FakePortal portal{bus.address()};
+    ManualScheduler scheduler;
+    DesktopAppearance appearance{scheduler, [address = bus.address()] {
+                                     return QDBusConnection::connectToBus(address,
+                                                                          QStringLiteral("appearance"));
+                                 }};
+    int changes = 0;
+};
+
+} // namespace
+
+TEST(AppearanceWishes, EachSettingAsksByItsOwnValue)
+{
+    const struct
+    {
+        QString group;
+        QString key;
+        QVariant asks;
+        QVariant doesNot;
+        bool motion;
+    } settings[] = {
+        {freedesktop, QStringLiteral("reduced-motion"), 1U, 0U, true},
+        {gnome, animations, false, true, true},
+        {plasma, QStringLiteral("AnimationDurationFactor"), QStringLiteral("0"), QStringLiteral("0.5"), true},
+        {freedesktop, contrast, 1U, 0U, false},
+        {gnomeAccess, QStringLiteral("high-contrast"), true, false, false},
+    };
+    for (const auto &setting : settings) {
+        AppearanceWishes wishes;
+        wishes.set(setting.group, setting.key, setting.asks);
+        EXPECT_EQ(wishes.lessMotion(), setting.motion) << qPrintable(setting.key);
+        EXPECT_EQ(wishes.lessTransparency(), !setting.motion) << qPrintable(setting.key);
+        wishes.set(setting.group, setting.key, setting.doesNot);
+        EXPECT_EQ(wishes, AppearanceWishes()) << qPrintable(setting.key);
+    }
+}
+
+TEST(AppearanceWishes, ValuesOfOtherTypesAskForNothing)
+{
+    const QVariant odd[] = {{},           QStringLiteral("false"), QStringLiteral(""), 2U, 7.5,
+                            QByteArray(), QVariantList{1U},        QVariantMap()};
+    for (const QVariant &value : odd) {
+        AppearanceWishes wishes;
+        wishes.set(freedesktop, QStringLiteral("reduced-motion"), value);
+        wishes.set(freedesktop, contrast, value);
+        wishes.set(gnome, animations, value);
+        wishes.set(gnomeAccess, QStringLiteral("high-contrast"), value);
+        wishes.set(plasma, QStringLiteral("AnimationDurationFactor"), value);
+        EXPECT_EQ(wishes, AppearanceWishes()) << value.typeName();
+    }
+}
+
+TEST(AppearanceWishes, AValueMayBeWrappedTwice)
+{
+    AppearanceWishes wishes;
+    const QDBusVariant once(false);
+    wishes.set(gnome, animations, QVariant::fromValue(QDBusVariant(QVariant::fromValue(once))));
+    EXPECT_TRUE(wishes.lessMotion());
+}
+
+TEST(AppearanceWishes, OneThatAsksIsEnough)
+{
+    const AppearanceWishes wishes = AppearanceWishes::of(
+        {{gnome, {{animations, true}, {QStringLiteral("gtk-theme"), QStringLiteral("x")}}},
+         {freedesktop, {{QStringLiteral("reduced-motion"), 1U}}},
+         {QStringLiteral("org.example"), {{contrast, 1U}}}});
+    EXPECT_TRUE(wishes.lessMotion());
+    EXPECT_FALSE(wishes.lessTransparency());
+}
+
+TEST(AppearanceWishes, AReplyOfAnotherShapeIsNone)
+{
+    EXPECT_FALSE(portalValues({}));
+    EXPECT_FALSE(portalValues({QStringLiteral("text")}));
+    EXPECT_FALSE(portalValues({1, 2}));
+}
+
+TEST_F(DesktopAppearanceTest, TakesWhatThePortalTells)
+{
+    portal.values = {{gnome, {{animations, false}}}, {freedesktop, {{contrast, 1U}}}};
+    portal.appear();
+    EXPECT_FALSE(appearance.reducesMotion()) << "nothing is known at the start";
+    begin();
+    EXPECT_TRUE(waitFor([&] { return changes > 0; }));
+    EXPECT_TRUE(appearance.reducesMotion());
+    EXPECT_TRUE(appearance.reducesTransparency());
+    EXPECT_EQ(portal.asked, AppearanceWishes::groups());
+}
+
+TEST_F(DesktopAppearanceTest, FollowsChanges)
+{
+    portal.appear();
+    begin();
+    ASSERT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
+    portal.change(gnome, animations, false);
+    EXPECT_TRUE(waitFor([&] { return appearance.reducesMotion(); }));
+    portal.change(plasma, QStringLiteral("AnimationDurationFactor"), QStringLiteral("0"));
+    portal.change(gnome, animations, true);
+    portal.change(freedesktop, contrast, 1U);
+    EXPECT_TRUE(waitFor([&] { return appearance.reducesTransparency(); }));
+    EXPECT_TRUE(appearance.reducesMotion()) << "one of two still asks";
+    portal.change(plasma, QStringLiteral("AnimationDurationFactor"), QStringLiteral("1"));
+    EXPECT_TRUE(waitFor([&] { return !appearance.reducesMotion(); }));
+}
+
+TEST_F(DesktopAppearanceTest, APortalThatComesLaterIsAsked)
+{
+    portal.values = {{gnome, {{animations, false}}}};
+    begin();
+    // The bus has answered that there is no portal once a call sent after it has returned.
+    QObject context;
+    bool answered = false;
+    const Connection other(bus.address(), QStringLiteral("other"));
+    callDBus(
+        other.bus,
+        QDBusMessage::createMethodCall(portalName, QStringLiteral("/"), QString(), QStringLiteral("None")),
+        context, [&](const auto &reply) {
+            EXPECT_FALSE(reply);
+            answered = true;
+        });
+    EXPECT_TRUE(waitFor([&] { return answered; }));
+    EXPECT_FALSE(appearance.reducesMotion());
+    portal.appear();
+    EXPECT_TRUE(waitFor([&] { return appearance.reducesMotion(); }));
+}
+
+TEST_F(DesktopAppearanceTest, ARestartOfThePortalIsReadAfresh)
+{
+    portal.values = {{gnome, {{animations, false}}}};
+    portal.appear();
+    begin();
+    ASSERT_TRUE(waitFor([&] { return appearance.reducesMotion(); }));
+    portal.vanish();
+    portal.values.clear();
+    portal.appear();
+    EXPECT_TRUE(waitFor([&] { return !appearance.reducesMotion(); }));
+}
+
+TEST_F(DesktopAppearanceTest, ABackendThatIsGoneIsNotCalledBack)
+{
+    portal.appear();
+    {
+        auto other = std::make_unique<DesktopAppearance>(scheduler, [address = bus.address()] {
+            return QDBusConnection::connectToBus(address, QStringLiteral("appearance"));
+        });
+        begin();
+        other.reset();
+    }
+    EXPECT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
+}
+
+TEST(DesktopAppearance, WithoutABusNothingIsReduced)
+{
+    ManualScheduler scheduler;
+    bool tried = false;
+    QObject context;
+    DesktopAppearance appearance(scheduler, [] {
+        return QDBusConnection::connectToBus(QStringLiteral("unix:path=/nonexistent/bus"),
+                                             QStringLiteral("nowhere"));
+    });
+    scheduler.advance(DesktopAppearance::startDelay);
+    openBus(
+        context,
+        [] {
+            return QDBusConnection::connectToBus(QStringLiteral("unix:path=/nonexistent/bus"),
+                                                 QStringLiteral("nowhere"));
+        },
+        [&](const QDBusConnection &bus) {
+            EXPECT_FALSE(bus.isConnected());
+            tried = true;
+        });
+    EXPECT_TRUE(waitFor([&] { return tried; }));
+    EXPECT_FALSE(appearance.reducesMotion());
+    EXPECT_FALSE(appearance.reducesTransparency());
+    QDBusConnection::disconnectFromBus(QStringLiteral("nowhere"));
+}
+
+} // namespace brimlight::test
+
+#include "AppearanceTest.moc"
