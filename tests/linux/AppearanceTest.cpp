@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <atomic>
+
 namespace brimlight::test {
 
 using namespace std::chrono_literals;
@@ -74,23 +76,13 @@ private:
     QString m_address;
 };
 
-/// A connection of its own, closed in the end.
-class Connection
+/// A connection of its own. It is never closed: Qt lets its thread fall over connections that are closed
+/// while another thread opens one.
+QDBusConnection newConnection(const QString &address)
 {
-public:
-    Connection(const QString &address, const QString &name)
-        : m_name(name)
-        , bus(QDBusConnection::connectToBus(address, name))
-    {
-    }
-    ~Connection() { QDBusConnection::disconnectFromBus(m_name); }
-
-private:
-    QString m_name;
-
-public:
-    QDBusConnection bus;
-};
+    static std::atomic<int> count = 0;
+    return QDBusConnection::connectToBus(address, QString::number(++count));
+}
 
 class FakePortal : public QObject
 {
@@ -99,15 +91,15 @@ class FakePortal : public QObject
 
 public:
     explicit FakePortal(const QString &address)
-        : m_connection(address, QStringLiteral("portal"))
+        : m_connection(newConnection(address))
     {
         qDBusRegisterMetaType<PortalValues>();
-        m_connection.bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
-                                        QDBusConnection::ExportScriptableContents);
+        m_connection.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+                                    QDBusConnection::ExportScriptableContents);
     }
 
-    void appear() { EXPECT_TRUE(m_connection.bus.registerService(portalName)); }
-    void vanish() { EXPECT_TRUE(m_connection.bus.unregisterService(portalName)); }
+    void appear() { EXPECT_TRUE(m_connection.registerService(portalName)); }
+    void vanish() { EXPECT_TRUE(m_connection.unregisterService(portalName)); }
     void change(const QString &group, const QString &key, const QVariant &value)
     {
         values[group][key] = value;
@@ -128,7 +120,7 @@ Q_SIGNALS:
     Q_SCRIPTABLE void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
-    Connection m_connection;
+    QDBusConnection m_connection;
 };
 
 class DesktopAppearanceTest : public testing::Test
@@ -138,7 +130,6 @@ protected:
     {
         appearance.observeChanges([this] { ++changes; });
     }
-    ~DesktopAppearanceTest() override { QDBusConnection::disconnectFromBus(QStringLiteral("appearance")); }
 
     void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "dbus-daemon does not start"; }
 
@@ -147,10 +138,7 @@ protected:
     PrivateBus bus;
     FakePortal portal{bus.address()};
     ManualScheduler scheduler;
-    DesktopAppearance appearance{scheduler, [address = bus.address()] {
-                                     return QDBusConnection::connectToBus(address,
-                                                                          QStringLiteral("appearance"));
-                                 }};
+    DesktopAppearance appearance{scheduler, [address = bus.address()] { return newConnection(address); }};
     int changes = 0;
 };
 
@@ -240,7 +228,7 @@ TEST_F(DesktopAppearanceTest, FollowsChanges)
     begin();
     ASSERT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
     portal.change(gnome, animations, false);
-    EXPECT_TRUE(waitFor([&] { return appearance.reducesMotion(); }));
+    ASSERT_TRUE(waitFor([&] { return appearance.reducesMotion(); }));
     portal.change(plasma, QStringLiteral("AnimationDurationFactor"), QStringLiteral("0"));
     portal.change(gnome, animations, true);
     portal.change(freedesktop, contrast, 1U);
@@ -257,9 +245,8 @@ TEST_F(DesktopAppearanceTest, APortalThatComesLaterIsAsked)
     // The bus has answered that there is no portal once a call sent after it has returned.
     QObject context;
     bool answered = false;
-    const Connection other(bus.address(), QStringLiteral("other"));
     callDBus(
-        other.bus,
+        newConnection(bus.address()),
         QDBusMessage::createMethodCall(portalName, QStringLiteral("/"), QString(), QStringLiteral("None")),
         context, [&](const auto &reply) {
             EXPECT_FALSE(reply);
@@ -287,9 +274,8 @@ TEST_F(DesktopAppearanceTest, ABackendThatIsGoneIsNotCalledBack)
 {
     portal.appear();
     {
-        auto other = std::make_unique<DesktopAppearance>(scheduler, [address = bus.address()] {
-            return QDBusConnection::connectToBus(address, QStringLiteral("appearance"));
-        });
+        auto other = std::make_unique<DesktopAppearance>(
+            scheduler, [address = bus.address()] { return newConnection(address); });
         begin();
         other.reset();
     }
@@ -298,28 +284,19 @@ TEST_F(DesktopAppearanceTest, ABackendThatIsGoneIsNotCalledBack)
 
 TEST(DesktopAppearance, WithoutABusNothingIsReduced)
 {
+    const auto open = [] { return newConnection(QStringLiteral("unix:path=/nonexistent/bus")); };
     ManualScheduler scheduler;
     bool tried = false;
     QObject context;
-    DesktopAppearance appearance(scheduler, [] {
-        return QDBusConnection::connectToBus(QStringLiteral("unix:path=/nonexistent/bus"),
-                                             QStringLiteral("nowhere"));
-    });
+    DesktopAppearance appearance(scheduler, open);
     scheduler.advance(DesktopAppearance::startDelay);
-    openBus(
-        context,
-        [] {
-            return QDBusConnection::connectToBus(QStringLiteral("unix:path=/nonexistent/bus"),
-                                                 QStringLiteral("nowhere"));
-        },
-        [&](const QDBusConnection &bus) {
-            EXPECT_FALSE(bus.isConnected());
-            tried = true;
-        });
+    openBus(context, open, [&](const QDBusConnection &bus) {
+        EXPECT_FALSE(bus.isConnected());
+        tried = true;
+    });
     EXPECT_TRUE(waitFor([&] { return tried; }));
     EXPECT_FALSE(appearance.reducesMotion());
     EXPECT_FALSE(appearance.reducesTransparency());
-    QDBusConnection::disconnectFromBus(QStringLiteral("nowhere"));
 }
 
 } // namespace brimlight::test
