@@ -5,31 +5,28 @@
 
 #include <QSet>
 
-#include <algorithm>
+#include <optional>
 
 namespace brimlight {
-namespace {
 
-/// Placed instances, one for each id: a second one of the same id could not be told from the first.
-QList<WidgetInstance> placedTiles(const GridLayout &layout)
+// One tile for each id: a second one of the same id could not be told from the first.
+QList<TileModel::Tile> TileModel::placed(const GridLayout &layout)
 {
-    QList<WidgetInstance> tiles;
+    QList<Tile> tiles;
     QSet<QUuid> seen;
     for (const WidgetInstance &instance : layout.instances) {
         if (instance.isPlaced() && instance.page >= 0 && !seen.contains(instance.id)) {
             seen.insert(instance.id);
-            tiles.append(instance);
+            tiles.append({instance});
         }
     }
     return tiles;
 }
 
-} // namespace
-
 TileModel::TileModel(const GridStore &grid, QObject *parent)
     : QAbstractListModel(parent)
     , m_grid(grid)
-    , m_tiles(placedTiles(grid.layout()))
+    , m_tiles(placed(grid.layout()))
 {
     connect(&grid, &GridStore::layoutChanged, this, &TileModel::follow);
 }
@@ -41,7 +38,7 @@ int TileModel::rowCount(const QModelIndex &parent) const
 
 QVariant TileModel::data(const QModelIndex &index, int role) const
 {
-    const WidgetInstance &tile = m_tiles.at(index.row());
+    const auto &[tile, leaving] = m_tiles.at(index.row());
     switch (role) {
     case instanceIdRole:
         return tile.id.toString(QUuid::WithoutBraces);
@@ -57,6 +54,8 @@ QVariant TileModel::data(const QModelIndex &index, int role) const
         return tile.row;
     case instanceRole:
         return QVariant::fromValue(tile);
+    case leavingRole:
+        return leaving;
     default:
         return {};
     }
@@ -64,38 +63,49 @@ QVariant TileModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> TileModel::roleNames() const
 {
-    return {{instanceIdRole, "instanceId"}, {kindRole, "kind"}, {pageRole, "page"},
-            {frameRole, "frame"},           {colRole, "col"},   {rowRole, "row"},
-            {instanceRole, "instance"}};
+    return {{instanceIdRole, "instanceId"}, {kindRole, "kind"},      {pageRole, "page"},
+            {frameRole, "frame"},           {colRole, "col"},        {rowRole, "row"},
+            {instanceRole, "instance"},     {leavingRole, "leaving"}};
 }
 
-void TileModel::follow()
+void TileModel::forget(const QString &instanceId)
 {
-    const QList<WidgetInstance> now = placedTiles(m_grid.layout());
-    const auto position = [](const QList<WidgetInstance> &list, const QUuid &id) {
-        return std::find_if(list.begin(), list.end(),
-                            [&](const WidgetInstance &tile) { return tile.id == id; });
-    };
+    const QUuid id = QUuid::fromString(instanceId);
     for (int row = static_cast<int>(m_tiles.size()) - 1; row >= 0; --row) {
-        if (position(now, m_tiles.at(row).id) != now.end())
+        if (m_tiles.at(row).instance.id != id || !m_tiles.at(row).leaving)
             continue;
         beginRemoveRows({}, row, row);
         m_tiles.removeAt(row);
         endRemoveRows();
     }
-    for (const WidgetInstance &tile : now) {
-        const auto known = position(m_tiles, tile.id);
-        const int row =
-            static_cast<int>(std::distance(m_tiles.cbegin(), QList<WidgetInstance>::const_iterator(known)));
-        if (known == m_tiles.end()) {
-            beginInsertRows({}, row, row);
-            m_tiles.append(tile);
-            endInsertRows();
-        } else if (*known != tile) {
-            m_tiles[row] = tile;
-            Q_EMIT dataChanged(index(row), index(row));
+}
+
+void TileModel::follow()
+{
+    QList<Tile> now = placed(m_grid.layout());
+    const auto take = [&](const QUuid &id) -> std::optional<Tile> {
+        for (qsizetype i = 0; i < now.size(); ++i) {
+            if (now.at(i).instance.id == id)
+                return now.takeAt(i);
         }
+        return std::nullopt;
+    };
+    for (int row = 0; row < static_cast<int>(m_tiles.size()); ++row) {
+        Tile next = m_tiles.at(row);
+        next.leaving = true;
+        if (const auto kept = take(next.instance.id))
+            next = *kept;
+        if (next == m_tiles.at(row))
+            continue;
+        m_tiles[row] = next;
+        Q_EMIT dataChanged(index(row), index(row));
     }
+    if (now.isEmpty())
+        return;
+    const int first = static_cast<int>(m_tiles.size());
+    beginInsertRows({}, first, first + static_cast<int>(now.size()) - 1);
+    m_tiles += now;
+    endInsertRows();
 }
 
 } // namespace brimlight

@@ -10,7 +10,8 @@ namespace brimlight {
 class GridStore;
 
 /// The placed instances of all pages. A change of the layout becomes insertions, removals and changed rows,
-/// never a reset, so that a view made for an instance lives as long as the instance.
+/// never a reset, so that a view made for an instance lives as long as the instance: a tile that is no longer
+/// in the layout stays in the list as leaving until the view has seen it off.
 class TileModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -25,7 +26,8 @@ public:
         frameRole,
         colRole,
         rowRole,
-        instanceRole
+        instanceRole,
+        leavingRole
     };
 
     explicit TileModel(const GridStore &grid, QObject *parent = nullptr);
@@ -34,11 +36,23 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+    /// The leaving tile need not be drawn any more; no other tile is touched.
+    Q_INVOKABLE void forget(const QString &instanceId);
+
 private:
+    struct Tile
+    {
+        WidgetInstance instance;
+        bool leaving = false;
+
+        bool operator==(const Tile &) const = default;
+    };
+
+    static QList<Tile> placed(const GridLayout &layout);
     void follow();
 
     const GridStore &m_grid;
-    QList<WidgetInstance> m_tiles;
+    QList<Tile> m_tiles;
 };
 
 } // namespace brimlight

@@ -60,8 +60,9 @@ Item {
             catalog: root.catalog
             theme: root.theme
             viewState: root.viewState
-            shown: root.open && page === root.page
-            visible: page === root.page
+            shown: root.open && page === root.page && !leaving
+            // The row goes with its tile, which must not go within its own handler.
+            onDeparted: Qt.callLater(root.tiles.forget, instanceId)
             z: flipped ? 2 : 0
             onMenuRequested: position => root.menuRequested(instanceId, kind, mapToItem(root, position))
             onDragStarted: root.drag.begin(instanceId, page)

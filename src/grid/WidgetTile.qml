@@ -17,6 +17,7 @@ Item {
     required property WidgetCatalog catalog
     required property ThemeStore theme
     required property GridViewState viewState
+    required property bool leaving
     required property bool shown
 
     readonly property bool flipped: viewState.flippedWidget === instanceId
@@ -26,6 +27,7 @@ Item {
     property real angle: flipped ? 180 : 0
     property real entrance: shown ? 1 : 0
 
+    signal departed
     signal menuRequested(point position)
     signal dragStarted
     signal dragMoved(point position)
@@ -36,8 +38,10 @@ Item {
     width: frame.width
     height: frame.height + (flipped && isOneRow ? 110 : 0)
     opacity: entrance
-    transformOrigin: Item.Top
-    scale: (0.85 + 0.15 * entrance) * (hover.hovered && !Motion.reduced ? 1.02 : flipped ? 0.98 : 1)
+    visible: entrance > 0
+    enabled: shown
+    transformOrigin: shown ? Item.Top : Item.Center
+    scale: (shown ? 0.85 + 0.15 * entrance : 0.8 + 0.2 * entrance) * (hover.hovered && !Motion.reduced ? 1.02 : flipped ? 0.98 : 1)
     activeFocusOnTab: shown
 
     Accessible.role: Accessible.Grouping
@@ -93,17 +97,24 @@ Item {
         }
     }
     Behavior on entrance {
-        enabled: root.shown
-
         SequentialAnimation {
             PauseAnimation {
-                duration: Motion.reduced ? 0 : (root.row * 6 + root.col) * 30
+                duration: root.shown && !Motion.reduced ? (root.row * 6 + root.col) * 30 : 0
             }
             NumberAnimation {
-                duration: Motion.entrance.duration
-                easing: Motion.entrance.easing
+                duration: root.shown ? Motion.entrance.duration : Motion.fade.duration
+                easing: root.shown ? Motion.entrance.easing : Motion.fade.easing
             }
         }
+    }
+
+    onEntranceChanged: {
+        if (leaving && entrance === 0)
+            departed();
+    }
+    onLeavingChanged: {
+        if (leaving && entrance === 0)
+            departed();
     }
 
     HoverHandler {

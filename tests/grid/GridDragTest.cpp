@@ -168,6 +168,11 @@ TEST_F(Tiles, AChangeOfTheLayoutIsNeverAReset)
     EXPECT_EQ(changes.size(), 1);
     EXPECT_EQ(tiles.data(tiles.index(1), TileModel::frameRole), QRectF(346, 174, 70, 70));
     grid->remove(first);
+    EXPECT_TRUE(tiles.data(tiles.index(0), TileModel::leavingRole).toBool());
+    EXPECT_TRUE(removals.isEmpty()) << "before the view has seen it off";
+    tiles.forget(second.toString(QUuid::WithoutBraces));
+    EXPECT_TRUE(removals.isEmpty()) << "it stays";
+    tiles.forget(first.toString(QUuid::WithoutBraces));
     EXPECT_EQ(removals.size(), 1);
     EXPECT_EQ(tiles.rowCount(), 1);
     EXPECT_EQ(tiles.data(tiles.index(0), TileModel::instanceIdRole), second.toString(QUuid::WithoutBraces));
