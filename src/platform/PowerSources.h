@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace brimlight {
+
+/// One source of power as the system describes it; every part may be missing.
+struct PowerSourceDescription
+{
+    /// In the same unit as `maxCapacity`, usually percent.
+    std::optional<int> currentCapacity;
+    std::optional<int> maxCapacity;
+    /// "AC Power" or "Battery Power".
+    std::optional<QString> powerSourceState;
+    std::optional<bool> isCharging;
+    /// Minutes; -1 while the system is still estimating.
+    std::optional<int> timeToEmpty;
+    std::optional<int> timeToFullCharge;
+};
+
+/// What the battery tells of itself; every part may be missing.
+struct SmartBattery
+{
+    /// Hundredths of a degree, Celsius or Kelvin.
+    std::optional<double> temperature;
+    std::optional<int> cycleCount;
+    /// Three in one unit, mAh or mWh / 10.
+    std::optional<int> designCapacity;
+    std::optional<int> rawMaxCapacity;
+    std::optional<int> maxCapacity;
+};
+
+class PowerSources
+{
+public:
+    virtual ~PowerSources() = default;
+    /// The first source; absent when there is none or it has no description.
+    virtual std::optional<PowerSourceDescription> first() = 0;
+    /// Absent without a battery.
+    virtual std::optional<SmartBattery> smartBattery() = 0;
+};
+
+} // namespace brimlight
