@@ -15,7 +15,8 @@ QString boolText(bool value)
 
 NotchController::NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
                                  const WidgetRegistry &widgets)
-    : m_scheduler(platform.scheduler)
+    : m_hosting(hosting)
+    , m_scheduler(platform.scheduler)
     , m_screens(platform.screens)
     , m_pointer(platform.pointer)
     , m_log(log)
@@ -40,6 +41,11 @@ NotchController::NotchController(const Platform &platform, NotchHosting &hosting
     m_screens.observeChanges([this] { m_scheduler.post(*this, [this] { reposition(); }); });
     subscribe();
     m_leftRelease = m_pointer.monitorLeftRelease([this] { leftReleased(); });
+}
+
+NotchController::~NotchController()
+{
+    m_hosting.unhost();
 }
 
 void NotchController::wireContainer()
