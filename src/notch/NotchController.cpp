@@ -69,6 +69,10 @@ void NotchController::wireContainer()
 
 void NotchController::subscribe()
 {
+    // Without transparency there is nothing to see of a blurred desktop.
+    const auto applyTransparency = [this] { m_panel.setBlursBehind(!m_motion.isOpaque()); };
+    connect(&m_motion, &Motion::changed, this, applyTransparency);
+    applyTransparency();
     onNextTurn(&m_grid, &GridStore::layoutChanged, [this] {
         clampCurrentPage();
         resizeIfExpanded();
