@@ -15,7 +15,8 @@ QString boolText(bool value)
 
 NotchController::NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
                                  const WidgetRegistry &widgets)
-    : m_scheduler(platform.scheduler)
+    : m_hosting(hosting)
+    , m_scheduler(platform.scheduler)
     , m_screens(platform.screens)
     , m_pointer(platform.pointer)
     , m_log(log)
@@ -42,6 +43,11 @@ NotchController::NotchController(const Platform &platform, NotchHosting &hosting
     m_leftRelease = m_pointer.monitorLeftRelease([this] { leftReleased(); });
 }
 
+NotchController::~NotchController()
+{
+    m_hosting.unhost();
+}
+
 void NotchController::wireContainer()
 {
     const auto unlessOptionsOpen = [this](auto swipe) {
@@ -63,6 +69,10 @@ void NotchController::wireContainer()
 
 void NotchController::subscribe()
 {
+    // Without transparency there is nothing to see of a blurred desktop.
+    const auto applyTransparency = [this] { m_panel.setBlursBehind(!m_motion.isOpaque()); };
+    connect(&m_motion, &Motion::changed, this, applyTransparency);
+    applyTransparency();
     onNextTurn(&m_grid, &GridStore::layoutChanged, [this] {
         clampCurrentPage();
         resizeIfExpanded();

@@ -33,6 +33,8 @@ public:
     virtual ~NotchHosting() = default;
     virtual OverlaySurface &surface() = 0;
     virtual void host(NotchController &controller) = 0;
+    /// The controller is about to go: nothing may stay bound to it.
+    virtual void unhost() = 0;
 };
 
 /// The heart of the program: owns the stores and the panel and decides when the panel opens, closes and stays
@@ -62,6 +64,7 @@ public:
 
     NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
                     const WidgetRegistry &widgets);
+    ~NotchController() override;
 
     /// Places the panel and orders it front; called once. From now on the panel is only ever resized.
     void show();
@@ -123,6 +126,7 @@ private:
     int pageCount() const;
     void clampCurrentPage();
 
+    NotchHosting &m_hosting;
     Scheduler &m_scheduler;
     Screens &m_screens;
     Pointer &m_pointer;

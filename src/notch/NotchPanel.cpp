@@ -76,6 +76,12 @@ void NotchPanel::setFrame(const Rect &frame, bool animate)
     m_animation.start();
 }
 
+void NotchPanel::setBlursBehind(bool blurs)
+{
+    m_blursBehind = blurs;
+    updateOutlines();
+}
+
 QRectF NotchPanel::pane() const
 {
     return {m_displayed.x - m_extent.x, m_extent.maxY() - m_displayed.maxY(), m_displayed.width,
@@ -172,7 +178,8 @@ void NotchPanel::updateOutlines()
     }
     const double radius = NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius(
         {0, 0, m_displayed.width, m_displayed.height});
-    std::vector<SurfaceOutline> outlines{{.frame = m_displayed, .bottomRadius = radius, .blursBehind = true}};
+    std::vector<SurfaceOutline> outlines{
+        {.frame = m_displayed, .bottomRadius = radius, .blursBehind = m_blursBehind}};
     for (const Rect &popover : m_popovers)
         outlines.push_back({.frame = popover});
     m_surface.setOutlines(outlines);

@@ -38,6 +38,8 @@ public:
     void setFrame(const Rect &frame, bool animate);
     /// Whether the panel shows anything. Goes before the frame that belongs to it.
     void setContentVisible(bool visible) { m_contentVisible = visible; }
+    /// Whether the desktop behind the pane is to be blurred where that is on offer; true at first.
+    void setBlursBehind(bool blurs);
 
     /// What is drawn now, in the surface's own coordinates: origin at its top left, y downwards.
     QRectF pane() const;
@@ -84,6 +86,7 @@ private:
     QVariantAnimation m_animation;
     bool m_contentVisible = false;
     bool m_isDrawn = false;
+    bool m_blursBehind = true;
     QHash<QObject *, Rect> m_popovers;
 };
 

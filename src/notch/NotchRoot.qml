@@ -76,6 +76,7 @@ Item {
 
     DropArea {
         anchors.fill: pane
+        keys: ["text/uri-list"]
         onDropped: drop => {
             if (drop.hasUrls) {
                 drop.accept(Qt.CopyAction);

@@ -69,6 +69,12 @@ void NotchWindow::host(NotchController &controller)
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Notch/NotchRoot.qml")));
 }
 
+void NotchWindow::unhost()
+{
+    m_view.setSource({});
+    m_translator.reset();
+}
+
 void NotchWindow::leaveTextField()
 {
     if (QQuickItem *item = m_view.activeFocusItem(); takesText(item))

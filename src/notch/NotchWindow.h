@@ -22,6 +22,7 @@ public:
 
     OverlaySurface &surface() override { return *m_surface; }
     void host(NotchController &controller) override;
+    void unhost() override;
     QQuickView &view() { return m_view; }
 
 private:

@@ -11,6 +11,13 @@ double limited(double strength)
     return std::min(strength, 1.0);
 }
 
+/// What lies outside of 0 to 1 counts as the nearest end: sums of stored numbers could be infinite or none.
+ThemeColor limited(const ThemeColor &color)
+{
+    const auto share = [](double value) { return std::clamp(value, 0.0, 1.0); };
+    return {share(color.red), share(color.green), share(color.blue), share(color.opacity)};
+}
+
 /// The share of white in the glass where the light is neither at its top nor gone.
 double lightness(Material material)
 {
@@ -98,8 +105,9 @@ TileStyle tileStyle(bool focused)
 
 Layer Layer::of(const ThemeColor &color, double opacityFactor)
 {
-    const double opacity = std::clamp(color.opacity * opacityFactor, 0.0, 1.0);
-    return {color.red * opacity, color.green * opacity, color.blue * opacity, opacity};
+    const ThemeColor drawn = limited(color);
+    const double opacity = drawn.opacity * opacityFactor;
+    return {drawn.red * opacity, drawn.green * opacity, drawn.blue * opacity, opacity};
 }
 
 Layer Layer::under(const Layer &top) const
@@ -129,7 +137,7 @@ QColor Layer::toColor() const
 
 Layer paneColor(const PaneLook &look, double depth)
 {
-    ThemeColor tone = look.theme.surface;
+    ThemeColor tone = limited(look.theme.surface);
     if (look.backdrop == Backdrop::opaque)
         tone.opacity = 1;
     if (look.reduceTransparency)

@@ -208,6 +208,7 @@ class FakeHosting : public NotchHosting
 public:
     OverlaySurface &surface() override { return fakeSurface; }
     void host(NotchController &controller) override { hosted = &controller; }
+    void unhost() override { hosted = nullptr; }
 
     FakeSurface fakeSurface;
     NotchController *hosted = nullptr;

@@ -139,7 +139,18 @@ TEST_F(Drag, AHugeTileAtTheBottomShowsEightRowsAndNoCellsBelowIt)
         EXPECT_FALSE(cell.col < 3 && cell.row >= 5);
 }
 
-TEST_F(Drag, UnplacedInstancesLeaveTheirCellsFreeAndHaveNoTile)
+TEST_F(Drag, UnplacedInstancesLeaveTheirCellsFree)
+{
+    load();
+    for (const GridCell &cell : {GridCell{-1, -1}, GridCell{0, -1}, GridCell{-1, 0}}) {
+        layout.instances = {{.size = WidgetSize::huge, .col = cell.col, .row = cell.row}};
+        grid->setLayout(layout);
+        EXPECT_EQ(freeCells(*grid, 0, 8).size(), 48);
+        EXPECT_EQ(TileModel(*grid).rowCount(), 0);
+    }
+}
+
+TEST_F(Drag, WhatFindsNoRoomHasNoTile)
 {
     for (int row = 0; row < 8; ++row) {
         add(WidgetSize::wideTall, 0, row % 4 * 2);

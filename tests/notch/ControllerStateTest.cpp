@@ -181,6 +181,57 @@ TEST_F(State, SwipesDoNothingWhileAnOverlayOwnsThePanelButATapActs)
     EXPECT_FALSE(isExpanded());
 }
 
+TEST_F(State, WithTheGalleryOpenASwipeDoesNothing)
+{
+    start();
+    setPages(3);
+    controller->setPage(1);
+    openByHover();
+    controller->openGallery();
+    for (const auto &[dx, dy] : {std::pair{-40, 0}, std::pair{40, 0}, std::pair{0, 40}, std::pair{0, -40}})
+        swipe(dx, dy);
+    EXPECT_EQ(model().currentPage(), 1);
+    EXPECT_TRUE(isExpanded());
+    EXPECT_TRUE(model().isPinned());
+    controller->closeGallery();
+    swipe(-40, 0);
+    EXPECT_EQ(model().currentPage(), 2);
+}
+
+TEST_F(State, WithTheGalleryOpenThePointerMayLeaveAndClosingItRestoresThePin)
+{
+    for (const bool pinned : {false, true}) {
+        SCOPED_TRACE(pinned ? "pinned" : "not pinned");
+        start();
+        openByHover();
+        model().setPinned(pinned);
+        controller->openGallery();
+        leave();
+        scheduler.advance(5s);
+        EXPECT_TRUE(isExpanded());
+        controller->closeGallery();
+        EXPECT_EQ(model().isPinned(), pinned);
+        EXPECT_FALSE(model().optionsOpen());
+        EXPECT_TRUE(isExpanded()) << "not before the next look at the pointer";
+        scheduler.advance(350ms + 120ms);
+        EXPECT_EQ(isExpanded(), pinned);
+    }
+}
+
+TEST_F(State, UnderReducedTransparencyThePaneAsksForNoBlur)
+{
+    appearance.reducedTransparency = true;
+    start();
+    controller->open();
+    panel().finishAnimation();
+    ASSERT_EQ(surface().outlines.size(), 1u);
+    EXPECT_FALSE(surface().outlines.front().blursBehind);
+    appearance.set(false, false);
+    EXPECT_TRUE(surface().outlines.front().blursBehind);
+    appearance.set(false, true);
+    EXPECT_FALSE(surface().outlines.front().blursBehind);
+}
+
 TEST_F(State, TickRunsOnlyWhileExpandedAtTheChosenRate)
 {
     defaults.values.insert(QStringLiteral("brimlight.refreshRate"), QStringLiteral("saver"));

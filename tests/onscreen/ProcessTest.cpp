@@ -1,5 +1,6 @@
 #include "OnScreenTest.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace brimlight::onscreen {
@@ -68,6 +69,62 @@ TEST_F(Process, SaysNothingUnlessDebugging)
     hand.clickAt({x.size().width() / 2, 5});
     EXPECT_TRUE(waitUntil([this] { return programWindowAt({x.size().width() / 2, 100}).has_value(); }));
     EXPECT_EQ(panel->lines(), QStringList());
+}
+
+/// Rendering, which needs no display.
+class Rendering : public Process
+{
+protected:
+    Rendering() { session.setVariable("TMPDIR", temporary.path().toLocal8Bit().constData()); }
+
+    /// What it prints.
+    QByteArray render(const QStringList &arguments)
+    {
+        QProcessEnvironment environment = session.environment();
+        environment.remove(u"DISPLAY"_s);
+        ChildProcess program(QStringLiteral(BRIMLIGHT_PROGRAM), arguments, environment);
+        EXPECT_TRUE(program.waitForFinished(60000));
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        status = program.exitCode();
+        errors = program.readAllStandardError();
+        return program.readAllStandardOutput();
+    }
+
+    QTemporaryDir temporary;
+    int status = -1;
+    QByteArray errors;
+};
+
+TEST_F(Rendering, WithoutAFolderGoesToTheTemporaryOne)
+{
+    const QDir folder(temporary.filePath(u"brimlight-widget-renders"_s));
+    const QByteArray said = render({u"--render-widgets"_s});
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(errors, "");
+    const QStringList files = folder.entryList(QDir::Files);
+    EXPECT_EQ(said, u"rendered %1 tiles\nRENDER_OK %2\n"_s.arg(files.size()).arg(folder.path()).toUtf8());
+    EXPECT_GT(files.size(), 45) << "each kind at each of its sizes";
+    for (const QString &name : {u"clock_wideTall.png"_s, u"weather_tall.png"_s, u"github_large.png"_s})
+        EXPECT_TRUE(files.contains(name)) << name.toStdString();
+    // A tile and the room for its shadow, twice as large as on a plain screen.
+    EXPECT_EQ(QImage(folder.filePath(u"calendar_huge.png"_s)).size(), QSize(540, 540));
+}
+
+TEST_F(Rendering, ToAFolderThatCannotBeMadeFails)
+{
+    const QByteArray said = render({u"--render-widgets"_s, u"/proc/brimlight"_s});
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(said, "");
+    EXPECT_TRUE(errors.startsWith("RENDER_FAIL ") && errors.endsWith('\n')) << errors.toStdString();
+}
+
+TEST_F(Rendering, WithoutTheSwitchTheProgramStartsAndNothingIsRendered)
+{
+    startPanel();
+    hand.moveTo(onStrip());
+    EXPECT_TRUE(waitForOpen());
+    EXPECT_EQ(QDir(temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    EXPECT_EQ(panel->lines().filter(u"RENDER"_s), QStringList());
 }
 
 /// A variable of the environment; a null value stands for its absence.

@@ -2,14 +2,14 @@
 #include "theme/RollingNumber.h"
 #include "theme/Sparkline.h"
 
+#include "fakes/HandDriver.h"
+
 #include <gtest/gtest.h>
 
-#include <QAnimationDriver>
 #include <QCoreApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QVariantAnimation>
 
 #include <cmath>
 #include <limits>
@@ -19,43 +19,6 @@ void qml_register_types_Brimlight_Theme();
 
 namespace brimlight::test {
 namespace {
-
-/// Animations move when the test says so.
-class HandDriver : public QAnimationDriver
-{
-public:
-    HandDriver()
-    {
-        install();
-        // Whenever the first animation starts, Qt adds what the clock on the wall shows. This one takes it
-        // all.
-        m_heartbeat.setStartValue(0);
-        m_heartbeat.setEndValue(1);
-        m_heartbeat.setDuration(1000);
-        m_heartbeat.setLoopCount(-1);
-        m_heartbeat.start();
-        advanceBy(std::chrono::milliseconds(0));
-    }
-    ~HandDriver() override
-    {
-        m_heartbeat.stop();
-        uninstall();
-    }
-
-    qint64 elapsed() const override { return m_now; }
-    void advanceBy(std::chrono::milliseconds time)
-    {
-        // Animations that were started in this event begin in the next one.
-        QCoreApplication::processEvents();
-        m_now += time.count();
-        advanceAnimation();
-        QCoreApplication::processEvents();
-    }
-
-private:
-    qint64 m_now = 0;
-    QVariantAnimation m_heartbeat;
-};
 
 class Gauge : public testing::Test
 {
@@ -412,6 +375,21 @@ TEST_F(Gauge, NumberRollsOnlyWhenItChanges)
     const QImage after = picture();
     EXPECT_NE(after, before);
     m_time.advanceBy(1s);
+    EXPECT_EQ(picture(), after);
+}
+
+TEST_F(Gauge, NumberChangesAtOnceUnderReducedMotion)
+{
+    RollingNumber number;
+    number.setReduceMotion(true);
+    number.setText(QStringLiteral("12:00"));
+    show(number, {80, 30});
+    const QImage before = picture();
+    number.setText(QStringLiteral("12:01"));
+    EXPECT_FALSE(number.rolling());
+    const QImage after = picture();
+    EXPECT_NE(after, before);
+    m_time.advanceBy(2s);
     EXPECT_EQ(picture(), after);
 }
 

@@ -139,6 +139,18 @@ TEST(Glass, LightFadesFromTheTopAndThenStays)
     EXPECT_DOUBLE_EQ(paneColor(look, lightDepth).green, paneColor(look, 2000).green);
 }
 
+TEST(Glass, ColoursOutOfRangeAreDrawnAsTheNearestEnd)
+{
+    PaneLook end{.theme = Theme::midnight(), .tinted = true};
+    end.theme.surface = {1, 0, 1, 1};
+    end.theme.accent = {1, 0, 0, 1};
+    PaneLook beyond = end;
+    beyond.theme.surface = {1e308, -1e308, 1e300, 1e308};
+    beyond.theme.accent = {1e308, -3, -1e308, 7};
+    for (const double depth : {0.0, lightDepth})
+        EXPECT_EQ(paneColor(beyond, depth).toColor(), paneColor(end, depth).toColor()) << depth;
+}
+
 TEST(Glass, TextStaysReadableOverAWhiteDesktop)
 {
     for (const Backdrop backdrop : {Backdrop::translucent, Backdrop::blurred}) {

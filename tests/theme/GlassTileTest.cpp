@@ -94,10 +94,11 @@ TEST(GlassTile, FollowsTheContinuousCorner)
     for (int y = 0; y < 100; ++y) {
         for (int x = 0; x < 100; ++x) {
             const QPointF centre(x + 0.5, y + 0.5);
-            if (smaller.contains(centre))
+            if (smaller.contains(centre)) {
                 EXPECT_GT(qAlpha(image.pixel(x, y)), 140);
-            else if (!larger.contains(centre))
+            } else if (!larger.contains(centre)) {
                 EXPECT_EQ(qAlpha(image.pixel(x, y)), 0);
+            }
         }
     }
 }

@@ -16,12 +16,17 @@ namespace brimlight::test {
 class WidgetTest : public testing::Test
 {
 protected:
+    explicit WidgetTest(std::vector<WidgetDefinition> kinds = {})
+        : registry(std::move(kinds))
+    {
+    }
+
     QTemporaryDir dir;
     ManualScheduler scheduler;
     MemoryDefaults defaults;
     RecordingLog recorded;
     TraceLog log{recorded, {}};
-    WidgetRegistry registry{{}};
+    WidgetRegistry registry;
     GridStore grid{dir.filePath(QStringLiteral("grid.json")), registry};
     ThemeStore theme{dir.filePath(QStringLiteral("theme.json")), defaults, recorded};
     AppSettings settings{defaults};

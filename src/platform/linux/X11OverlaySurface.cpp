@@ -75,6 +75,10 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     , m_touchpad(connection)
     , m_gesture(scheduler,
                 [this](const ScrollEvent &event) { return m_events.scrolled && m_events.scrolled(event); })
+    , m_dragEnter(connection.atom("XdndEnter"))
+    , m_dragPosition(connection.atom("XdndPosition"))
+    , m_dragLeave(connection.atom("XdndLeave"))
+    , m_dragStatus(connection.atom("XdndStatus"))
     , m_listening(connection, [this](const xcb_generic_event_t &event) { return handle(event); })
 {
     // New parts of a grown window are transparent until they are painted, instead of whatever memory held.
@@ -165,10 +169,22 @@ void X11OverlaySurface::backdropMayHaveChanged()
 
 bool X11OverlaySurface::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Enter)
+    switch (event->type()) {
+    case QEvent::Enter:
         pointerCame();
-    else if (event->type() == QEvent::Leave)
+        break;
+    case QEvent::Leave:
         pointerWent();
+        // Whoever drags holds the pointer: a source that was lost no longer does.
+        setDragOver(false);
+        break;
+    case QEvent::DragLeave:
+    case QEvent::Drop:
+        setDragOver(false);
+        break;
+    default:
+        break;
+    }
     return QObject::eventFilter(watched, event);
 }
 
@@ -183,6 +199,8 @@ bool X11OverlaySurface::handle(const xcb_generic_event_t &event)
         if (reinterpret_cast<const xcb_leave_notify_event_t &>(event).event == m_sensor.id())
             pointerWent();
         return false;
+    case XCB_CLIENT_MESSAGE:
+        return handleDrag(reinterpret_cast<const xcb_client_message_event_t &>(event));
     case XCB_GE_GENERIC: {
         const auto &generic = reinterpret_cast<const xcb_ge_generic_event_t &>(event);
         if (generic.extension != m_connection.inputOpcode())
@@ -230,6 +248,43 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
     return onSensor;
 }
 
+bool X11OverlaySurface::handleDrag(const xcb_client_message_event_t &event)
+{
+    if (event.window != m_sensor.id())
+        return false;
+    if (event.type == m_dragEnter) {
+        setDragOver(true);
+    } else if (event.type == m_dragLeave) {
+        setDragOver(windowAtPointer() == m_window.winId());
+    } else if (event.type == m_dragPosition) {
+        xcb_client_message_event_t refusal = {};
+        refusal.response_type = XCB_CLIENT_MESSAGE;
+        refusal.format = 32;
+        refusal.window = event.data.data32[0];
+        refusal.type = m_dragStatus;
+        refusal.data.data32[0] = m_sensor.id();
+        xcb_send_event(m_connection, 0, refusal.window, XCB_EVENT_MASK_NO_EVENT,
+                       reinterpret_cast<const char *>(&refusal));
+        m_connection.flush();
+    }
+    return true;
+}
+
+void X11OverlaySurface::setDragOver(bool over)
+{
+    if (over == m_dragOver)
+        return;
+    m_dragOver = over;
+    applyShape();
+}
+
+xcb_window_t X11OverlaySurface::windowAtPointer() const
+{
+    const auto reply = adopt(
+        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
+    return reply ? reply->child : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+}
+
 void X11OverlaySurface::pointerCame()
 {
     if (m_over)
@@ -246,12 +301,8 @@ void X11OverlaySurface::pointerWent()
         return;
     // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving. XWayland
     // knows no better than this event: it would answer with the last place it has seen.
-    if (!m_connection.isXWayland()) {
-        const auto reply = adopt(xcb_query_pointer_reply(
-            m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
-        if (reply && isOurs(reply->child))
-            return;
-    }
+    if (!m_connection.isXWayland() && isOurs(windowAtPointer()))
+        return;
     m_over = false;
     m_overChanged(false);
     if (m_events.exited)
@@ -283,8 +334,10 @@ void X11OverlaySurface::applyShape()
     m_blur.setRegion(blurred);
     // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip
     // itself.
-    if (m_connection.isXWayland() && m_outlines.empty())
+    if (m_outlines.empty() && (m_connection.isXWayland() || m_dragOver))
         felt = outlineRows({.frame = m_strip}, m_extent, m_window.devicePixelRatio());
+    if (m_outlines.empty() && m_dragOver)
+        drawn = felt;
     const auto window = static_cast<xcb_window_t>(m_window.winId());
     const auto set = [&](xcb_shape_sk_t kind, const std::vector<xcb_rectangle_t> &rows) {
         xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0,

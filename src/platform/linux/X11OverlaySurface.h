@@ -43,6 +43,12 @@ protected:
 private:
     bool handle(const xcb_generic_event_t &event);
     bool handlePointer(const xcb_input_button_press_event_t &event);
+    /// Something is dragged over the sensor. That can take nothing: it gives way to the drawn window, which
+    /// is what the source finds at its next motion, and Qt does the rest.
+    bool handleDrag(const xcb_client_message_event_t &event);
+    void setDragOver(bool over);
+    /// What the pointer is over, of all windows on the screen.
+    xcb_window_t windowAtPointer() const;
     bool isOurs(xcb_window_t window) const { return window == m_sensor.id() || window == m_window.winId(); }
     void pointerCame();
     void pointerWent();
@@ -67,6 +73,12 @@ private:
     bool m_over = false;
     bool m_pressed = false;
     bool m_wantsKeyboard = false;
+    /// Something is being dragged over the strip, so the drawn window covers it though nothing is drawn.
+    bool m_dragOver = false;
+    xcb_atom_t m_dragEnter;
+    xcb_atom_t m_dragPosition;
+    xcb_atom_t m_dragLeave;
+    xcb_atom_t m_dragStatus;
     X11Connection::Listening m_listening;
 };
 

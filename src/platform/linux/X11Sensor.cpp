@@ -18,6 +18,10 @@ X11Sensor::X11Sensor(X11Connection &connection)
     const uint32_t values[] = {1, events};
     xcb_create_window(connection, 0, m_id, connection.root(), 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                       XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+    // Things that are dragged are announced to windows that say they understand it.
+    const uint32_t dragVersion = 5;
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, m_id, connection.atom("XdndAware"), XCB_ATOM_ATOM,
+                        32, 1, &dragVersion);
     if (connection.inputOpcode() != 0) {
         struct
         {
