@@ -6,11 +6,13 @@
 #include <QSet>
 
 #include <algorithm>
+#include <tuple>
 
 namespace brimlight {
 namespace {
 
-/// Placed instances, one for each id: a second one of the same id could not be told from the first.
+/// Placed instances in the order of reading, one for each id: a second one of the same id could not be told
+/// from the first.
 QList<WidgetInstance> placedTiles(const GridLayout &layout)
 {
     QList<WidgetInstance> tiles;
@@ -21,6 +23,9 @@ QList<WidgetInstance> placedTiles(const GridLayout &layout)
             tiles.append(instance);
         }
     }
+    std::stable_sort(tiles.begin(), tiles.end(), [](const WidgetInstance &a, const WidgetInstance &b) {
+        return std::tie(a.page, a.row, a.col) < std::tie(b.page, b.row, b.col);
+    });
     return tiles;
 }
 
@@ -83,17 +88,25 @@ void TileModel::follow()
         m_tiles.removeAt(row);
         endRemoveRows();
     }
-    for (const WidgetInstance &tile : now) {
-        const auto known = position(m_tiles, tile.id);
+    // What stands before `target` is in order already.
+    for (int target = 0; target < now.size(); ++target) {
+        const auto known = position(m_tiles, now.at(target).id);
         const int row =
             static_cast<int>(std::distance(m_tiles.cbegin(), QList<WidgetInstance>::const_iterator(known)));
         if (known == m_tiles.end()) {
-            beginInsertRows({}, row, row);
-            m_tiles.append(tile);
+            beginInsertRows({}, target, target);
+            m_tiles.insert(target, now.at(target));
             endInsertRows();
-        } else if (*known != tile) {
-            m_tiles[row] = tile;
-            Q_EMIT dataChanged(index(row), index(row));
+            continue;
+        }
+        if (row != target) {
+            beginMoveRows({}, row, row, {}, target);
+            m_tiles.move(row, target);
+            endMoveRows();
+        }
+        if (m_tiles.at(target) != now.at(target)) {
+            m_tiles[target] = now.at(target);
+            Q_EMIT dataChanged(index(target), index(target));
         }
     }
 }

@@ -9,8 +9,9 @@ namespace brimlight {
 
 class GridStore;
 
-/// The placed instances of all pages. A change of the layout becomes insertions, removals and changed rows,
-/// never a reset, so that a view made for an instance lives as long as the instance.
+/// The placed instances of all pages in the order of reading: by page, row and column. A change of the layout
+/// becomes insertions, removals, moves and changed rows, never a reset, so that a view made for an instance
+/// lives as long as the instance.
 class TileModel : public QAbstractListModel
 {
     Q_OBJECT
