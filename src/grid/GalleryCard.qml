@@ -4,27 +4,24 @@ import Brimlight.Theme
 import Brimlight.Grid
 
 // One kind of widget in the gallery, with a live preview that is only ever scaled down.
-Item {
+AbstractButton {
     id: root
 
     required property WidgetCatalog catalog
     required property ThemeStore theme
     required property galleryEntry entry
     required property bool live
-    property bool current: false
+    readonly property bool lit: hovered || keyed
+    readonly property bool lifted: lit && !Motion.reduced
 
-    signal chosen
-
-    readonly property bool lifted: (hover.hovered || current) && !Motion.reduced
-
-    scale: tap.pressed && !Motion.reduced ? 0.95 : lifted ? 1.025 : 1
+    label: entry.name
+    // The view around the cards is reached by Tab, a card by arrows.
+    activeFocusOnTab: false
+    scale: pressed && !Motion.reduced ? 0.95 : lifted ? 1.025 : 1
     transform: Translate {
         y: root.lifted ? -1 : 0
     }
-    Accessible.role: Accessible.Button
-    Accessible.name: entry.name
     Accessible.description: entry.sizes
-    Accessible.onPressAction: chosen()
 
     Behavior on scale {
         NumberAnimation {
@@ -38,7 +35,7 @@ Item {
         radius: 16
         color: root.theme.current.surfaceElevated
         border.width: 1
-        border.color: root.current ? root.theme.current.accent : Qt.rgba(1, 1, 1, hover.hovered ? 0.12 : 0.06)
+        border.color: Qt.rgba(1, 1, 1, root.lit ? 0.12 : 0.06)
     }
     Rectangle {
         anchors.fill: parent
@@ -46,11 +43,11 @@ Item {
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: Qt.rgba(1, 1, 1, hover.hovered ? 0.1 : 0.045)
+                color: Qt.rgba(1, 1, 1, root.lit ? 0.1 : 0.045)
             }
             GradientStop {
                 position: 1
-                color: Qt.alpha(root.theme.current.accent, hover.hovered ? 0.1 : 0.03)
+                color: Qt.alpha(root.theme.current.accent, root.lit ? 0.1 : 0.03)
             }
         }
     }
@@ -145,12 +142,9 @@ Item {
         font.pixelSize: 8
     }
 
-    HoverHandler {
-        id: hover
-    }
-    Tap {
-        id: tap
-
-        onTapped: root.chosen()
+    FocusRing {
+        corner: 16
+        gap: 0
+        border.color: root.theme.current.textPrimary
     }
 }

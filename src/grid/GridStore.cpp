@@ -145,6 +145,20 @@ bool GridStore::place(const QUuid &id, qint64 col, qint64 row)
     return true;
 }
 
+bool GridStore::shift(const QUuid &id, int cols, int rows)
+{
+    const auto tile = instance(id);
+    if (!tile)
+        return false;
+    GridCell cell{tile->col, tile->row};
+    while (liesWithinGrid(cell, tile->size)) {
+        cell = {cell.col + cols, cell.row + rows};
+        if (canPlace(id, cell))
+            return place(id, cell.col, cell.row);
+    }
+    return false;
+}
+
 void GridStore::setSize(const QUuid &id, WidgetSize size)
 {
     WidgetInstance *found = find(id);

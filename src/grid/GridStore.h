@@ -48,6 +48,8 @@ public:
     /// Moves a tile on its own page, after limiting the cell to where the tile fits. False when that is
     /// occupied.
     bool place(const QUuid &id, qint64 col, qint64 row);
+    /// Moves a tile by as many steps of `cols` and `rows` as it takes to find room. False when there is none.
+    bool shift(const QUuid &id, int cols, int rows);
     /// Resizes where the tile stands, slid back into the grid, or at the first free slot; nothing when
     /// neither fits.
     void setSize(const QUuid &id, WidgetSize size);

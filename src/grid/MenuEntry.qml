@@ -1,40 +1,48 @@
 import QtQuick
 import Brimlight.Theme
 
-// One line of a menu.
-Item {
+// One line of a menu. Only one is lit: the one that has the focus, or the one under the pointer.
+AbstractButton {
     id: root
 
     required property string text
     required property ThemeStore theme
+    property bool checkable: false
     property bool checked: false
     property bool destructive: false
     property bool opensSubmenu: false
+    property bool submenuOpen: false
+    readonly property bool lit: submenuOpen || (InputModality.isKeyboard ? activeFocus : hovered)
 
-    signal triggered
+    // Up and down stay within the menu and go round.
+    function focusNext(forward: bool): void {
+        let item = root.nextItemInFocusChain(forward);
+        while (item.parent !== root.parent)
+            item = item.nextItemInFocusChain(forward);
+        item.forceActiveFocus(Qt.TabFocusReason);
+    }
 
-    implicitWidth: label.implicitWidth + 46
+    label: text
+    role: Accessible.MenuItem
+    implicitWidth: caption.implicitWidth + 46
     implicitHeight: 24
-    activeFocusOnTab: true
-    Accessible.role: Accessible.MenuItem
-    Accessible.name: text
+    Accessible.checkable: checkable
     Accessible.checked: checked
-    Accessible.onPressAction: triggered()
-    Keys.onReturnPressed: triggered()
-    Keys.onEnterPressed: triggered()
-    Keys.onSpacePressed: triggered()
-    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-    Keys.onRightPressed: {
-        if (opensSubmenu)
-            triggered();
+    Keys.onDownPressed: focusNext(true)
+    Keys.onTabPressed: focusNext(true)
+    Keys.onUpPressed: focusNext(false)
+    Keys.onBacktabPressed: focusNext(false)
+    Keys.onRightPressed: event => {
+        event.accepted = opensSubmenu && !submenuOpen;
+        if (event.accepted)
+            clicked();
     }
 
     Rectangle {
         anchors.fill: parent
         radius: 6
         color: root.theme.current.accent
-        visible: hover.hovered || root.activeFocus
+        visible: root.lit
     }
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
@@ -42,15 +50,15 @@ Item {
         visible: root.checked
         name: "checkmark"
         size: 10
-        color: label.color
+        color: caption.color
     }
     Text {
-        id: label
+        id: caption
 
         anchors.verticalCenter: parent.verticalCenter
         x: 23
         text: root.text
-        color: root.destructive && !hover.hovered ? "#FF453A" : root.theme.current.textPrimary
+        color: root.destructive && !root.lit ? "#FF453A" : root.theme.current.textPrimary
         font.family: Fonts.rounded
         font.pixelSize: 12
     }
@@ -61,12 +69,6 @@ Item {
         visible: root.opensSubmenu
         name: "chevron.right"
         size: 9
-        color: label.color
-    }
-    HoverHandler {
-        id: hover
-    }
-    Tap {
-        onTapped: root.triggered()
+        color: caption.color
     }
 }

@@ -8,9 +8,18 @@ Item {
     required property ThemeStore theme
     default property alias entries: column.data
 
+    // With keys the first entry is lit at once.
+    function takeFocus(): void {
+        const first = InputModality.isKeyboard ? root.nextItemInFocusChain() : root;
+        first.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     implicitWidth: 168
     implicitHeight: column.implicitHeight + 10
     Accessible.role: Accessible.PopupMenu
+    Keys.onDownPressed: takeFocus()
+    Keys.onTabPressed: takeFocus()
+    Keys.onUpPressed: takeFocus()
 
     Rectangle {
         anchors.fill: parent

@@ -1,7 +1,7 @@
 import QtQuick
 import Brimlight.Theme
 
-// One choice of a few, side by side, with its label above.
+// One choice of a few, side by side, with its label above. Tab reaches the chosen one, and arrows choose.
 Item {
     id: root
 
@@ -10,8 +10,15 @@ Item {
     required property list<string> labels
     required property list<string> values
     required property string value
+    readonly property int current: values.indexOf(value)
 
     signal chosen(string value)
+
+    function choose(index: int): void {
+        const wrapped = (index + labels.length) % labels.length;
+        segments.itemAt(wrapped).forceActiveFocus(Qt.TabFocusReason);
+        chosen(values[wrapped]);
+    }
 
     implicitHeight: caption.height + 3 + 22
     Accessible.role: Accessible.Grouping
@@ -37,43 +44,48 @@ Item {
             anchors.margins: 2
 
             Repeater {
+                id: segments
+
                 model: root.labels.length
 
-                Rectangle {
+                AbstractButton {
                     id: segment
 
                     required property int index
-                    readonly property bool selected: root.values[index] === root.value
+                    readonly property bool selected: index === root.current
 
                     width: parent.width / root.labels.length
                     height: parent.height
-                    radius: 5
-                    color: selected ? root.colors.accent : hover.hovered ? Qt.rgba(1, 1, 1, 0.08) : "transparent"
-                    border.width: activeFocus ? 1 : 0
-                    border.color: root.colors.textPrimary
-                    activeFocusOnTab: true
-                    Accessible.role: Accessible.RadioButton
-                    Accessible.name: root.labels[index]
+                    activeFocusOnTab: activeFocus || index === Math.max(0, root.current)
+                    label: root.labels[index]
+                    role: Accessible.RadioButton
+                    Accessible.checkable: true
                     Accessible.checked: selected
-                    Accessible.onPressAction: root.chosen(root.values[index])
-                    Keys.onReturnPressed: root.chosen(root.values[index])
-                    Keys.onSpacePressed: root.chosen(root.values[index])
+                    Accessible.onToggleAction: clicked()
+                    Keys.onLeftPressed: root.choose(index - 1)
+                    Keys.onUpPressed: root.choose(index - 1)
+                    Keys.onRightPressed: root.choose(index + 1)
+                    Keys.onDownPressed: root.choose(index + 1)
+                    onClicked: root.chosen(root.values[index])
 
+                    Rectangle {
+                        anchors.fill: parent
+                        radius: 5
+                        color: segment.selected ? root.colors.accent : segment.hovered ? Qt.rgba(1, 1, 1, 0.08) : "transparent"
+                    }
+                    FocusRing {
+                        corner: 5
+                        border.color: root.colors.textPrimary
+                    }
                     Text {
                         anchors.centerIn: parent
                         width: Math.min(implicitWidth, parent.width - 2)
                         elide: Text.ElideRight
-                        text: root.labels[segment.index]
+                        text: segment.label
                         color: segment.selected ? "white" : root.colors.textPrimary
                         font.family: Fonts.rounded
                         font.pixelSize: 10
                         font.weight: Font.Medium
-                    }
-                    HoverHandler {
-                        id: hover
-                    }
-                    Tap {
-                        onTapped: root.chosen(root.values[segment.index])
                     }
                 }
             }

@@ -12,8 +12,17 @@ Item {
     required property string kind
     required property var instance
     required property bool closesOnTap
+    readonly property bool takesKeyboard: true
 
     signal closeRequested
+
+    function takeFocus(): void {
+        const first = InputModality.isKeyboard ? root.nextItemInFocusChain() : root;
+        first.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: qsTr("Settings")
 
     Tap {
         onTapped: {

@@ -4,7 +4,7 @@ import Brimlight.Theme
 import Brimlight.Grid
 
 // The context menu of one tile, with the sizes in a menu of their own beside it.
-Item {
+FocusScope {
     id: root
 
     required property WidgetCatalog catalog
@@ -12,6 +12,8 @@ Item {
     required property ThemeStore theme
     property string instanceId
     property string kind
+    // The tile it was opened for.
+    property Item opener
     readonly property bool takesKeyboard: true
     readonly property string currentSize: catalog.sizeOf(instanceId)
     property bool sizesOpen: false
@@ -21,29 +23,36 @@ Item {
 
     signal closed
 
-    function openFor(id: string, widgetKind: string, at: point): void {
+    function openFor(tile: Item, id: string, widgetKind: string, at: point): void {
+        opener = tile;
         instanceId = id;
         kind = widgetKind;
         sizesOpen = false;
         menu.x = Math.max(4, Math.min(at.x, width - menu.width - 4));
         menu.y = Math.max(4, Math.min(at.y, height - menu.height - 4));
-        menu.forceActiveFocus();
+        menu.takeFocus();
+    }
+    function openSizes(): void {
+        sizesOpen = true;
+        sizes.takeFocus();
+    }
+    function closeSizes(): void {
+        sizesOpen = false;
+        sizeEntry.forceActiveFocus(Qt.TabFocusReason);
     }
     function close(): void {
+        // The focus leaves the entries before they go.
+        closed();
         instanceId = "";
         sizesOpen = false;
-        closed();
     }
 
     visible: isOpen
-    focus: isOpen
-    Keys.onEscapePressed: {
+    Keys.onEscapePressed: sizesOpen ? closeSizes() : close()
+    Keys.onLeftPressed: {
         if (sizesOpen)
-            sizesOpen = false;
-        else
-            close();
+            closeSizes();
     }
-    Keys.onLeftPressed: sizesOpen = false
 
     // A click anywhere else closes.
     Tap {
@@ -64,9 +73,10 @@ Item {
             visible: root.catalog.hasSettings(root.kind)
             theme: root.theme
             text: "Settings (Flip)"
-            onTriggered: {
-                root.viewState.toggleFlip(root.instanceId);
+            onClicked: {
+                const id = root.instanceId;
                 root.close();
+                root.viewState.toggleFlip(id);
             }
         }
         Rectangle {
@@ -83,14 +93,15 @@ Item {
             theme: root.theme
             text: "Size"
             opensSubmenu: true
-            onTriggered: root.sizesOpen = !root.sizesOpen
+            submenuOpen: root.sizesOpen
+            onClicked: root.sizesOpen ? root.closeSizes() : root.openSizes()
         }
         MenuEntry {
             width: parent.width
             theme: root.theme
             text: "Remove"
             destructive: true
-            onTriggered: {
+            onClicked: {
                 const id = root.instanceId;
                 root.close();
                 root.catalog.remove(id);
@@ -120,8 +131,9 @@ Item {
                 width: parent.width
                 theme: root.theme
                 text: modelData.label
+                checkable: true
                 checked: modelData.size === root.currentSize
-                onTriggered: {
+                onClicked: {
                     root.catalog.setSize(root.instanceId, modelData.size);
                     root.close();
                 }

@@ -5,11 +5,13 @@
 
 #include <QSet>
 
-#include <optional>
+#include <algorithm>
+#include <tuple>
 
 namespace brimlight {
 
-// One tile for each id: a second one of the same id could not be told from the first.
+// In the order of reading, one tile for each id: a second one of the same id could not be told from the
+// first.
 QList<TileModel::Tile> TileModel::placed(const GridLayout &layout)
 {
     QList<Tile> tiles;
@@ -20,6 +22,9 @@ QList<TileModel::Tile> TileModel::placed(const GridLayout &layout)
             tiles.append({instance});
         }
     }
+    std::ranges::stable_sort(tiles, {}, [](const Tile &tile) {
+        return std::tuple(tile.instance.page, tile.instance.row, tile.instance.col);
+    });
     return tiles;
 }
 
@@ -83,29 +88,34 @@ void TileModel::forget(const QString &instanceId)
 void TileModel::follow()
 {
     QList<Tile> now = placed(m_grid.layout());
-    const auto take = [&](const QUuid &id) -> std::optional<Tile> {
-        for (qsizetype i = 0; i < now.size(); ++i) {
-            if (now.at(i).instance.id == id)
-                return now.takeAt(i);
-        }
-        return std::nullopt;
+    const auto position = [](const QList<Tile> &list, const QUuid &id) {
+        const auto found = std::ranges::find(list, id, [](const Tile &tile) { return tile.instance.id; });
+        return static_cast<int>(std::distance(list.begin(), found));
     };
-    for (int row = 0; row < static_cast<int>(m_tiles.size()); ++row) {
-        Tile next = m_tiles.at(row);
-        next.leaving = true;
-        if (const auto kept = take(next.instance.id))
-            next = *kept;
-        if (next == m_tiles.at(row))
-            continue;
-        m_tiles[row] = next;
-        Q_EMIT dataChanged(index(row), index(row));
+    for (Tile tile : std::as_const(m_tiles)) {
+        tile.leaving = true;
+        if (position(now, tile.instance.id) == now.size())
+            now.append(tile);
     }
-    if (now.isEmpty())
-        return;
-    const int first = static_cast<int>(m_tiles.size());
-    beginInsertRows({}, first, first + static_cast<int>(now.size()) - 1);
-    m_tiles += now;
-    endInsertRows();
+    // What stands before `target` is in order already.
+    for (int target = 0; target < now.size(); ++target) {
+        const int row = position(m_tiles, now.at(target).instance.id);
+        if (row == m_tiles.size()) {
+            beginInsertRows({}, target, target);
+            m_tiles.insert(target, now.at(target));
+            endInsertRows();
+            continue;
+        }
+        if (row != target) {
+            beginMoveRows({}, row, row, {}, target);
+            m_tiles.move(row, target);
+            endMoveRows();
+        }
+        if (m_tiles.at(target) != now.at(target)) {
+            m_tiles[target] = now.at(target);
+            Q_EMIT dataChanged(index(target), index(target));
+        }
+    }
 }
 
 } // namespace brimlight

@@ -9,9 +9,10 @@ namespace brimlight {
 
 class GridStore;
 
-/// The placed instances of all pages. A change of the layout becomes insertions, removals and changed rows,
-/// never a reset, so that a view made for an instance lives as long as the instance: a tile that is no longer
-/// in the layout stays in the list as leaving until the view has seen it off.
+/// The placed instances of all pages in the order of reading: by page, row and column. A change of the layout
+/// becomes insertions, removals, moves and changed rows, never a reset, so that a view made for an instance
+/// lives as long as the instance: a tile that is no longer in the layout stays at the end of the list as
+/// leaving until the view has seen it off.
 class TileModel : public QAbstractListModel
 {
     Q_OBJECT

@@ -111,6 +111,25 @@ void WidgetCatalog::remove(const QString &id)
     m_environment.grid.remove(QUuid::fromString(id));
 }
 
+bool WidgetCatalog::move(const QString &id, int key)
+{
+    const auto step = [&](int cols, int rows) {
+        return m_environment.grid.shift(QUuid::fromString(id), cols, rows);
+    };
+    switch (key) {
+    case Qt::Key_Left:
+        return step(-1, 0);
+    case Qt::Key_Right:
+        return step(1, 0);
+    case Qt::Key_Up:
+        return step(0, -1);
+    case Qt::Key_Down:
+        return step(0, 1);
+    default:
+        return false;
+    }
+}
+
 QQmlComponent &WidgetCatalog::component(QQmlEngine &engine, const QUrl &url)
 {
     auto &component = m_components[url.toString()];

@@ -87,6 +87,9 @@ public:
     Q_INVOKABLE QString sizeOf(const QString &id) const;
     Q_INVOKABLE void setSize(const QString &id, const QString &size);
     Q_INVOKABLE void remove(const QString &id);
+    /// An arrow key, as Qt::Key, moves the tile to the next place in this direction where it fits. False when
+    /// there is none, and for other keys.
+    Q_INVOKABLE bool move(const QString &id, int key);
 
     /// The compiled file, kept for all views made from it.
     QQmlComponent &component(QQmlEngine &engine, const QUrl &url);

@@ -16,7 +16,6 @@ Item {
     signal closed
 
     function takeFocus(): void {
-        cards.keyed = false;
         cards.forceActiveFocus();
     }
 
@@ -61,9 +60,6 @@ Item {
     GridView {
         id: cards
 
-        // The current card is marked once somebody uses the keys.
-        property bool keyed: false
-
         anchors.fill: parent
         anchors.topMargin: 44
         anchors.margins: 16
@@ -75,20 +71,13 @@ Item {
         model: root.catalog.gallery()
         activeFocusOnTab: true
         keyNavigationEnabled: true
-        Keys.onPressed: event => {
-            keyed = true;
-            event.accepted = false;
-        }
-        Keys.onReturnPressed: root.added(model[currentIndex].kind)
-        Keys.onSpacePressed: root.added(model[currentIndex].kind)
         Accessible.role: Accessible.List
         Accessible.name: "Add a widget"
 
-        delegate: Item {
+        delegate: FocusScope {
             id: slot
 
             required property var modelData
-            required property int index
 
             width: cards.cellWidth
             height: cards.cellHeight
@@ -100,8 +89,8 @@ Item {
                 theme: root.theme
                 entry: slot.modelData
                 live: root.open
-                current: cards.keyed && cards.activeFocus && cards.currentIndex === slot.index
-                onChosen: root.added(slot.modelData.kind)
+                focus: true
+                onClicked: root.added(slot.modelData.kind)
             }
         }
     }

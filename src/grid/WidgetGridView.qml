@@ -16,8 +16,10 @@ Item {
     required property int page
     required property bool open
 
-    signal menuRequested(string instanceId, string kind, point position)
+    signal menuRequested(Item tile, string instanceId, string kind, point position)
 
+    Accessible.role: Accessible.List
+    Accessible.name: "Widgets"
     implicitWidth: backdrop.implicitWidth
     implicitHeight: backdrop.implicitHeight
 
@@ -56,7 +58,15 @@ Item {
     Repeater {
         model: root.tiles
 
+        // Before a tile goes, the focus goes to what is before it.
+        onItemRemoved: (index, item) => {
+            if (item.activeFocus)
+                item.nextItemInFocusChain(false).forceActiveFocus(Qt.TabFocusReason);
+        }
+
         WidgetTile {
+            id: tile
+
             catalog: root.catalog
             theme: root.theme
             viewState: root.viewState
@@ -64,7 +74,7 @@ Item {
             // The row goes with its tile, which must not go within its own handler.
             onDeparted: Qt.callLater(root.tiles.forget, instanceId)
             z: flipped ? 2 : 0
-            onMenuRequested: position => root.menuRequested(instanceId, kind, mapToItem(root, position))
+            onMenuRequested: position => root.menuRequested(tile, instanceId, kind, mapToItem(root, position))
             onDragStarted: root.drag.begin(instanceId, page)
             onDragMoved: position => root.drag.move(mapToItem(root, position))
             onDragEnded: position => root.drag.drop(mapToItem(root, position))

@@ -44,11 +44,27 @@ Item {
     scale: (shown ? 0.85 + 0.15 * entrance : 0.8 + 0.2 * entrance) * (hover.hovered && !Motion.reduced ? 1.02 : flipped ? 0.98 : 1)
     activeFocusOnTab: shown
 
-    Accessible.role: Accessible.Grouping
+    function requestMenu(): void {
+        menuRequested(Qt.point(0, height + 6));
+    }
+
+    Accessible.role: Accessible.ListItem
     Accessible.name: catalog.displayName(kind)
-    Keys.onMenuPressed: menuRequested(Qt.point(width / 2, height / 2))
-    Keys.onReturnPressed: menuRequested(Qt.point(width / 2, height / 2))
-    Keys.onSpacePressed: menuRequested(Qt.point(width / 2, height / 2))
+    Accessible.onPressAction: requestMenu()
+    Keys.onPressed: event => {
+        const shiftF10 = event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier);
+        // What is inside of the tile has a use of its own for these.
+        const press = activeFocus && [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].includes(event.key);
+        const moved = activeFocus && (event.modifiers & Qt.ControlModifier) && catalog.move(instanceId, event.key);
+        const opens = event.key === Qt.Key_Menu || shiftF10 || press;
+        if (opens)
+            requestMenu();
+        event.accepted = opens || moved;
+    }
+    onFlippedChanged: {
+        if (!flipped && InputModality.isKeyboard)
+            forceActiveFocus(Qt.TabFocusReason);
+    }
 
     Behavior on x {
         enabled: root.entrance === 1
@@ -147,7 +163,7 @@ Item {
         anchors.fill: parent
         theme: root.theme.current
         strength: root.theme.glassStrength
-        focused: hover.hovered || root.activeFocus
+        focused: hover.hovered
         solid: root.isOneRow && root.angle > 0
         reduceTransparency: Motion.opaque
     }
@@ -172,10 +188,25 @@ Item {
         }
     }
 
+    FocusRing {
+        corner: 22
+        gap: 0
+        border.color: root.theme.current.textPrimary
+    }
+
     Loader {
+        id: back
+
+        function takeFocus(): void {
+            if (visible && item && root.flipped)
+                (item as TileBack).takeFocus();
+        }
+
         anchors.fill: parent
         active: root.flipped || root.angle > 0
         visible: root.angle >= 90
+        onLoaded: takeFocus()
+        onVisibleChanged: takeFocus()
         sourceComponent: TileBack {
             catalog: root.catalog // qmllint disable unqualified
             theme: root.theme // qmllint disable unqualified

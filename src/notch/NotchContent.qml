@@ -15,7 +15,7 @@ Item {
     readonly property real topInset: viewModel.collapsedHeight + 8
     property bool galleryOpen: false
 
-    signal menuRequested(string instanceId, string kind, point position)
+    signal menuRequested(Item tile, string instanceId, string kind, point position)
 
     function openGallery(): void {
         controller.openGallery();
@@ -25,7 +25,12 @@ Item {
     function closeGallery(): void {
         controller.closeGallery();
         galleryOpen = false;
-        root.forceActiveFocus();
+        focusAfter(header.galleryButton);
+    }
+    // Where the focus goes when something closes: who uses keys goes on from there, and otherwise nothing keeps the
+    // keyboard.
+    function focusAfter(next: Item): void {
+        (InputModality.isKeyboard ? next : root).forceActiveFocus(Qt.TabFocusReason);
     }
 
     opacity: shown ? 1 : 0
@@ -40,6 +45,23 @@ Item {
             viewModel.showSettings = false;
         else
             controller.requestClose();
+    }
+
+    onShownChanged: {
+        if (!shown)
+            root.forceActiveFocus();
+    }
+
+    Connections {
+        target: root.viewModel
+
+        function onFlippedWidgetIDChanged() {
+            if (root.viewModel.flippedWidget === "" && !InputModality.isKeyboard)
+                root.forceActiveFocus();
+        }
+        function onOnboardingCompletedChanged() {
+            root.focusAfter(header.galleryButton);
+        }
     }
 
     Behavior on opacity {
@@ -64,12 +86,27 @@ Item {
         }
     }
 
+    // Before the tiles, since Tab goes by this order; above them, since its tool tips reach down.
+    NotchHeader {
+        id: header
+
+        z: 1
+        anchors.left: parent.left
+        anchors.right: parent.right
+        y: Math.max(4, (root.viewModel.collapsedHeight - height) / 2)
+        visible: root.viewModel.onboardingCompleted
+        enabled: !root.galleryOpen
+        controller: root.controller
+        onGalleryRequested: root.openGallery()
+    }
+
     Flickable {
         anchors.fill: parent
         anchors.topMargin: root.topInset
         anchors.bottomMargin: 24
         clip: contentHeight > height
         visible: root.viewModel.onboardingCompleted && !root.viewModel.showSettings
+        enabled: !root.galleryOpen
         interactive: false
         contentHeight: grid.implicitHeight
 
@@ -85,7 +122,7 @@ Item {
             theme: root.controller.theme
             page: root.viewModel.currentPage
             open: root.shown && root.viewModel.onboardingCompleted && !root.viewModel.showSettings
-            onMenuRequested: (instanceId, kind, position) => root.menuRequested(instanceId, kind, mapToItem(root, position))
+            onMenuRequested: (tile, instanceId, kind, position) => root.menuRequested(tile, instanceId, kind, mapToItem(root, position))
         }
         WheelHandler {
             enabled: !root.viewModel.optionsOpen
@@ -96,18 +133,9 @@ Item {
         }
     }
 
-    NotchHeader {
-        anchors.left: parent.left
-        anchors.right: parent.right
-        y: Math.max(4, (root.viewModel.collapsedHeight - height) / 2)
-        visible: root.viewModel.onboardingCompleted
-        enabled: !root.galleryOpen
-        controller: root.controller
-        onGalleryRequested: root.openGallery()
-    }
-
     Item {
         anchors.fill: parent
+        z: 2
         visible: opacity > 0
         // What fades away catches no clicks.
         enabled: root.galleryOpen

@@ -11,6 +11,7 @@ Item {
     required property NotchController controller
     readonly property NotchViewModel viewModel: controller.viewModel
     readonly property theme colors: controller.theme.current
+    readonly property alias galleryButton: add
 
     signal galleryRequested
 
@@ -55,7 +56,7 @@ Item {
             Repeater {
                 model: root.controller.pageControls.shown
 
-                Item {
+                AbstractButton {
                     id: capsule
 
                     required property int index
@@ -64,13 +65,11 @@ Item {
 
                     width: bar.width
                     height: 16
-                    activeFocusOnTab: true
-                    Accessible.role: Accessible.PageTab
-                    Accessible.name: (page + 1).toString()
+                    label: qsTr("Page") + " " + (page + 1)
+                    role: Accessible.PageTab
+                    Accessible.selectable: true
                     Accessible.selected: current
-                    Accessible.onPressAction: root.viewModel.currentPage = page
-                    Keys.onReturnPressed: root.viewModel.currentPage = page
-                    Keys.onSpacePressed: root.viewModel.currentPage = page
+                    onClicked: root.viewModel.currentPage = page
 
                     Rectangle {
                         id: bar
@@ -79,7 +78,7 @@ Item {
                         width: capsule.current ? 16 : 6
                         height: 6
                         radius: 3
-                        color: capsule.current ? root.colors.accent : Qt.alpha(root.colors.textPrimary, capsule.activeFocus ? 0.8 : 0.35)
+                        color: capsule.current ? root.colors.accent : Qt.alpha(root.colors.textPrimary, 0.35)
 
                         Behavior on width {
                             NumberAnimation {
@@ -87,10 +86,11 @@ Item {
                                 easing: Motion.dots.easing
                             }
                         }
-                    }
-                    Tap {
-                        margin: 2
-                        onTapped: root.viewModel.currentPage = capsule.page
+
+                        FocusRing {
+                            target: capsule
+                            border.color: root.colors.textPrimary
+                        }
                     }
                 }
             }
@@ -108,13 +108,10 @@ Item {
 
                 ToolTipLabel {
                     text: addPage.label
-                    shown: addPageHover.hovered
+                    shown: addPage.hovered || addPage.keyed
                     colors: root.colors
                     anchors.top: parent.bottom
                     anchors.topMargin: 5
-                }
-                HoverHandler {
-                    id: addPageHover
                 }
             }
         }
@@ -126,6 +123,8 @@ Item {
         spacing: 8
 
         NotchHeaderButton {
+            id: add
+
             visible: !root.viewModel.showSettings
             colors: root.colors
             systemImage: "plus"

@@ -3,13 +3,17 @@ import Brimlight.Core
 import Brimlight.Theme
 import Brimlight.Notch
 
-// The first-run walk-through.
+// The first-run walk-through. Who has clicked on "Next" can go on with keys.
 Item {
     id: root
 
     required property NotchController controller
     readonly property theme colors: controller.theme.current
+    readonly property bool takesKeyboard: true
     readonly property bool live: controller.viewModel.isExpanded
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: title.text
 
     OnboardingSteps {
         id: steps
@@ -75,6 +79,8 @@ Item {
             }
         }
         Text {
+            id: title
+
             anchors.horizontalCenter: parent.horizontalCenter
             text: steps.current >= 0 ? qsTr(steps.title()) : ""
             color: root.colors.textPrimary
@@ -94,6 +100,8 @@ Item {
             font.family: Fonts.rounded
             font.pixelSize: 12
             lineHeight: 1.15
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 
@@ -113,7 +121,10 @@ Item {
             visible: steps.hasBack
             text: qsTr("Back")
             colors: root.colors
-            onClicked: steps.back()
+            onClicked: {
+                forceActiveFocus();
+                steps.back();
+            }
         }
     }
     Row {
@@ -150,6 +161,7 @@ Item {
         colors: root.colors
         prominent: true
         onClicked: {
+            forceActiveFocus();
             if (steps.isLast)
                 root.controller.viewModel.onboardingCompleted = true;
             else

@@ -68,7 +68,8 @@ Item {
 
                 sourceComponent: NotchContent {
                     controller: root.controller // qmllint disable unqualified
-                    onMenuRequested: (instanceId, kind, position) => menu.openFor(instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
+                    focus: true
+                    onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
                 }
             }
         }
@@ -101,7 +102,7 @@ Item {
         theme: root.controller.theme
         onMenuRectChanged: root.panel.showPopover(menu, menuRect)
         onSizesRectChanged: root.panel.showPopover(sizes, sizesRect)
-        onClosed: content.forceActiveFocus()
+        onClosed: (InputModality.isKeyboard ? opener : content).forceActiveFocus()
 
         QtObject {
             id: sizes

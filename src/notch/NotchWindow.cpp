@@ -1,6 +1,10 @@
 #include "notch/NotchWindow.h"
 
+#include "theme/InputModality.h"
+
 #include <QQuickItem>
+
+#include <algorithm>
 
 // Static libraries: naming the registrations keeps the linker from dropping them.
 void qml_register_types_Brimlight_Core();
@@ -16,22 +20,40 @@ using Registration = void (*)();
     &qml_register_types_Brimlight_Core, &qml_register_types_Brimlight_Theme,
     &qml_register_types_Brimlight_Grid, &qml_register_types_Brimlight_Notch};
 
-bool takesText(const QQuickItem *item)
+bool takesText(const QQuickItem &item)
 {
-    return item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
+    return item.flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
 }
 
-/// Text fields take the keyboard, and so do menus and the gallery while they are open: Escape must reach
-/// them.
-bool takesKeyboard(const QQuickItem *item)
+/// Inside of something that keys belong to as long as it is open: a menu, the gallery.
+bool isInKeyboardOwner(const QQuickItem *item)
 {
-    if (takesText(item))
-        return true;
     for (; item; item = item->parentItem()) {
         if (item->property("takesKeyboard").toBool())
             return true;
     }
     return false;
+}
+
+bool takesKeyboard(const QQuickItem *item)
+{
+    return item && (takesText(*item) || item->activeFocusOnTab() || isInKeyboardOwner(item));
+}
+
+/// Scrolls whatever the item is in until it shows with the mark around it.
+void reveal(const QQuickItem &item)
+{
+    constexpr double mark = 6;
+    for (QQuickItem *around = item.parentItem(); around; around = around->parentItem()) {
+        auto *content = around->property("contentItem").value<QQuickItem *>();
+        const QVariant contentY = around->property("contentY");
+        if (!content || !contentY.isValid())
+            continue;
+        const QRectF seen = item.mapRectToItem(content, {0, -mark, item.width(), item.height() + 2 * mark});
+        const double y = std::max(contentY.toDouble(), seen.bottom() - around->height());
+        const double most = around->property("contentHeight").toDouble() - around->height();
+        around->setProperty("contentY", std::clamp(std::min(y, seen.top()), 0.0, std::max(0.0, most)));
+    }
 }
 
 } // namespace
@@ -44,13 +66,12 @@ NotchWindow::NotchWindow(const SurfaceFactory &makeSurface)
     m_view.setTitle(QStringLiteral("Brimlight"));
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_surface = makeSurface(m_view);
-    connect(&m_view, &QQuickWindow::activeFocusItemChanged, this,
-            [this] { m_surface->setWantsKeyboard(takesKeyboard(m_view.activeFocusItem())); });
-    // When somebody else has taken the keyboard, the text field is left, so that the next click asks for it
-    // again.
+    connect(&m_view, &QQuickWindow::activeFocusItemChanged, this, &NotchWindow::followFocus);
+    // When somebody else has taken the keyboard, the control is left, so that the next click on a text field
+    // asks for it again.
     connect(&m_view, &QWindow::activeChanged, this, [this] {
         if (!m_view.isActive())
-            leaveTextField();
+            leaveControl();
     });
 }
 
@@ -62,11 +83,9 @@ void NotchWindow::host(NotchController &controller)
     connect(controller.appSettings(), &AppSettings::languageChanged, &m_engine, &QQmlEngine::retranslate);
     controller.motion().installOn(m_engine);
     m_view.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
-    connect(controller.viewModel(), &NotchViewModel::isExpandedChanged, this, [this, &controller] {
-        if (!controller.viewModel()->isExpanded())
-            leaveTextField();
-    });
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Notch/NotchRoot.qml")));
+    const int modality = qmlTypeId("Brimlight.Theme", 1, 0, "InputModality");
+    m_engine.singletonInstance<InputModality *>(modality)->watch(m_view);
 }
 
 void NotchWindow::unhost()
@@ -75,9 +94,18 @@ void NotchWindow::unhost()
     m_translator.reset();
 }
 
-void NotchWindow::leaveTextField()
+void NotchWindow::followFocus()
 {
-    if (QQuickItem *item = m_view.activeFocusItem(); takesText(item))
+    const QQuickItem *item = m_view.activeFocusItem();
+    if (item)
+        reveal(*item);
+    m_surface->setWantsKeyboard(takesKeyboard(item));
+}
+
+void NotchWindow::leaveControl()
+{
+    QQuickItem *item = m_view.activeFocusItem();
+    if (item && (takesText(*item) || (item->activeFocusOnTab() && !isInKeyboardOwner(item))))
         item->setFocus(false);
 }
 

@@ -26,7 +26,8 @@ public:
     QQuickView &view() { return m_view; }
 
 private:
-    void leaveTextField();
+    void followFocus();
+    void leaveControl();
 
     QQmlEngine m_engine;
     std::unique_ptr<UiTranslator> m_translator;

@@ -29,6 +29,8 @@ Item {
         font.family: Fonts.rounded
         font.pixelSize: 13
         font.weight: Font.Bold
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     Grid {
@@ -63,6 +65,10 @@ Item {
 
                 width: root.cellWidth
                 height: root.cellHeight
+                Accessible.role: Accessible.StaticText
+                Accessible.name: modelData.day
+                Accessible.description: modelData.isToday ? "Today" : ""
+                Accessible.ignored: modelData.day === 0
 
                 Rectangle {
                     anchors.centerIn: parent

@@ -49,6 +49,8 @@ Item {
             tint: root.colors.accent
             track: Qt.alpha(root.colors.accent, 0.18)
             reduceMotion: Motion.reduced
+            Accessible.role: Accessible.ProgressBar
+            Accessible.name: "Day " + progress.dayText
         }
         Text {
             anchors.centerIn: parent

@@ -33,6 +33,8 @@ Item {
 
                 width: parent.width
                 height: root.isTall ? 30 : 18
+                Accessible.role: Accessible.StaticText
+                Accessible.name: entry.label + " " + entry.time
 
                 Symbol {
                     id: symbol

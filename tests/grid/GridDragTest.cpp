@@ -190,6 +190,30 @@ TEST_F(Tiles, AChangeOfTheLayoutIsNeverAReset)
     EXPECT_TRUE(resets.isEmpty());
 }
 
+TEST_F(Tiles, StandInTheOrderOfReadingAndMoveWithTheirPlace)
+{
+    const QString onSecondPage = text(add(WidgetSize::small, 0, 0, 1));
+    const QString right = text(add(WidgetSize::small, 3, 0));
+    const WidgetInstance leftmost = add(WidgetSize::small, 1, 0);
+    const QString below = text(add(WidgetSize::small, 0, 1));
+    const QString left = text(leftmost);
+    load();
+    TileModel tiles(*grid);
+    const auto order = [&] {
+        QStringList ids;
+        for (int row = 0; row < tiles.rowCount(); ++row)
+            ids.append(tiles.data(tiles.index(row), TileModel::instanceIdRole).toString());
+        return ids;
+    };
+    EXPECT_EQ(order(), (QStringList{left, right, below, onSecondPage}));
+    const QSignalSpy removals(&tiles, &QAbstractItemModel::rowsRemoved);
+    EXPECT_TRUE(grid->place(leftmost.id, 5, 0));
+    EXPECT_EQ(order(), (QStringList{right, left, below, onSecondPage}));
+    EXPECT_TRUE(removals.isEmpty()) << "its view lives on";
+    grid->remove(QUuid::fromString(right));
+    EXPECT_EQ(order(), (QStringList{left, below, onSecondPage}));
+}
+
 TEST_F(Tiles, OfTwoInstancesWithOneIdOneIsDrawn)
 {
     const QUuid id = add(WidgetSize::small, 0, 0).id;

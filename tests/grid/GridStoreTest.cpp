@@ -300,6 +300,35 @@ TEST_F(GridStoreQueries, CanPlaceWantsTheExactCell)
     EXPECT_FALSE(store->canPlace(QUuid::createUuid(), {0, 0}));
 }
 
+using GridStoreShift = GridStoreTest;
+
+TEST_F(GridStoreShift, GoesToTheNextPlaceInTheDirection)
+{
+    startWith({tile(WidgetSize::small, 0, 0), tile(WidgetSize::wide, 1, 0), tile(WidgetSize::small, 5, 7)});
+    const QUuid id = instances()[0].id;
+    EXPECT_TRUE(store->shift(id, 1, 0));
+    EXPECT_EQ(corner(0), (GridCell{3, 0})) << "past the tile that stands in the way";
+    EXPECT_TRUE(store->shift(id, 0, 1));
+    EXPECT_EQ(corner(0), (GridCell{3, 1}));
+    EXPECT_TRUE(store->shift(id, -1, 0));
+    EXPECT_EQ(corner(0), (GridCell{2, 1}));
+    EXPECT_EQ(stored(), store->layout());
+}
+
+TEST_F(GridStoreShift, StaysWhereThereIsNoRoom)
+{
+    startWith({tile(WidgetSize::wide, 4, 0), tile(WidgetSize::wide, 4, 1)});
+    const GridLayout before = store->layout();
+    EXPECT_FALSE(store->shift(instances()[0].id, 1, 0));
+    EXPECT_FALSE(store->shift(instances()[0].id, 0, -1));
+    EXPECT_FALSE(store->shift(QUuid::createUuid(), 0, 1));
+    WidgetInstance outside = instances()[1];
+    outside.col = largest;
+    store->update(outside);
+    EXPECT_FALSE(store->shift(outside.id, 1, 0));
+    EXPECT_EQ(instances()[0], before.instances[0]);
+}
+
 using GridStoreAdd = GridStoreTest;
 
 TEST_F(GridStoreAdd, HugeTilesStandSideBySideThenBelow)

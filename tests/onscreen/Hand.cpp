@@ -51,6 +51,14 @@ void Hand::typeKey(uint32_t keysym) const
     m_x.flush();
 }
 
+void Hand::typeKeyWith(uint32_t modifier, uint32_t keysym) const
+{
+    fake(XCB_KEY_PRESS, keycode(modifier));
+    typeKey(keysym);
+    fake(XCB_KEY_RELEASE, keycode(modifier));
+    m_x.flush();
+}
+
 void Hand::useTouchpad() const
 {
     // Input properties need the version to be agreed on first.

@@ -24,6 +24,8 @@ public:
     /// Wheel steps without a pause: button 4 is up, 5 down, 6 left, 7 right.
     void scroll(uint8_t button, int steps) const;
     void typeKey(uint32_t keysym) const;
+    /// While the other key is held.
+    void typeKeyWith(uint32_t modifier, uint32_t keysym) const;
 
     /// From now on the device that this hand moves passes for a touchpad.
     void useTouchpad() const;
