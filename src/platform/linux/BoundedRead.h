@@ -22,7 +22,7 @@ std::optional<QByteArray> smallFile(const QString &path, qsizetype limit = 1 << 
 ///
 /// Belongs to one thread, and what it is given to call may not use it in turn. It can be destroyed while
 /// calls are late. Separate objects do not disturb each other; an object costs a thread from its first use
-/// on, and a call some ten microseconds.
+/// on, and a call some thirty microseconds.
 class BoundedRead
 {
 public:
