@@ -73,18 +73,18 @@ TEST_F(KeptAnswerTest, NothingBeforeTheFirstAnswer)
 TEST_F(KeptAnswerTest, ABodyMayOutliveIt)
 {
     std::promise<void> gate;
-    std::promise<void> returned;
+    const auto returned = std::make_shared<std::promise<void>>();
     {
         BoundedRead reads(20ms);
         KeptAnswer<int> shortLived;
-        shortLived.ask(reads, key, [opened = gate.get_future().share(), &returned] {
+        shortLived.ask(reads, key, [opened = gate.get_future().share(), returned] {
             opened.wait();
-            returned.set_value();
+            returned->set_value();
             return 1;
         });
     }
     gate.set_value();
-    EXPECT_EQ(returned.get_future().wait_for(10s), std::future_status::ready);
+    EXPECT_EQ(returned->get_future().wait_for(10s), std::future_status::ready);
 }
 
 } // namespace brimlight::test

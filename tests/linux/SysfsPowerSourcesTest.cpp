@@ -284,7 +284,7 @@ TEST_F(PowerSourcesTest, CapacitiesThatCannotBeAreAbsent)
 TEST(PowerSources, ASlowDriverLeavesTheLastValuesAndItsLateOnesFollow)
 {
     const Machine machine(MachineKind::laptopIntel);
-    SysfsPowerSources sources(machine.sys(), 250ms);
+    SysfsPowerSources sources(machine.sys(), 1s);
     const auto deadline = [] { return std::chrono::steady_clock::now() + 10s; };
     const auto percent = [&] { return BatteryReader::read(sources).percent; };
     for (const auto end = deadline(); percent() != 72 && std::chrono::steady_clock::now() < end;)

@@ -9,14 +9,16 @@ namespace brimlight::test {
 
 using namespace std::chrono_literals;
 
+constexpr uint64_t page = 4096;
+
 class SystemHistoryStoreTest : public testing::Test
 {
 protected:
     SystemHistoryStoreTest()
     {
         statistics.ticks = CpuTicks{.user = 100, .idle = 900};
-        statistics.pages = MemoryPages{.active = 500, .pageSize = 4096};
-        statistics.physical = 1000 * 4096;
+        statistics.pages = MemoryPages{.active = 500, .pageSize = page};
+        statistics.physical = 1000 * page;
     }
 
     FakeHostStatistics statistics;

@@ -10,14 +10,16 @@
 
 namespace brimlight::test {
 
+constexpr uint64_t page = 4096;
+
 class SystemReaderTest : public testing::Test
 {
 protected:
     SystemReaderTest()
     {
         statistics.ticks = CpuTicks{.user = 100, .system = 50, .idle = 800, .nice = 50};
-        statistics.pages = MemoryPages{.active = 300, .wired = 200, .compressor = 100, .pageSize = 4096};
-        statistics.physical = 1000 * 4096;
+        statistics.pages = MemoryPages{.active = 300, .wired = 200, .compressor = 100, .pageSize = page};
+        statistics.physical = 1000 * page;
     }
 
     void spend(uint32_t busy, uint32_t idle)
@@ -132,7 +134,7 @@ TEST_F(SystemReaderTest, LoadStaysInItsRangeWhenACounterWrapsOrGoesBack)
 
 TEST_F(SystemReaderTest, MoreMemoryInUseThanThereIsCountsAsAll)
 {
-    statistics.physical = 10 * 4096;
+    statistics.physical = 10 * page;
     EXPECT_EQ(reader.read().memUsed, 1);
 }
 
@@ -140,7 +142,7 @@ TEST_F(SystemReaderTest, UnknownPhysicalMemoryKeepsTheLastValue)
 {
     statistics.physical = 0;
     EXPECT_EQ(reader.read().memUsed, 0);
-    statistics.physical = 6000 * 4096;
+    statistics.physical = 6000 * page;
     EXPECT_DOUBLE_EQ(reader.read().memUsed, 0.1);
     statistics.physical = 0;
     EXPECT_DOUBLE_EQ(reader.read().memUsed, 0.1);
@@ -152,7 +154,7 @@ TEST_F(SystemReaderTest, TheSixtyFirstSampleDropsTheOldest)
         statistics.pages->active = i;
         reader.read();
     };
-    statistics.pages = MemoryPages{.pageSize = 4096};
+    statistics.pages = MemoryPages{.pageSize = page};
     for (int i = 0; i < 60; ++i)
         sample(i);
     EXPECT_EQ(reader.memHistory().size(), 60);

@@ -35,7 +35,7 @@ std::optional<CpuTicks> parseCpuTicks(const QByteArray &stat)
 {
     // Old kernels leave out the last ones. Those after them are the guests', which are in user and nice.
     enum Column { user, nice, system, idle, iowait, irq, softirq, steal, count };
-    const QList<QByteArray> words = stat.left(stat.indexOf('\n')).simplified().split(' ');
+    const QList<QByteArray> words = stat.split('\n').first().simplified().split(' ');
     if (words.first() != "cpu" || words.size() <= 1 + idle)
         return std::nullopt;
     std::array<uint64_t, count> ticks{};
