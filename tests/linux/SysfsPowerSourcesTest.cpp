@@ -1,0 +1,318 @@
+#include "platform/linux/SysfsPowerSources.h"
+
+#include "fixtures/machines.h"
+#include "sensors/BatteryHealthReader.h"
+#include "sensors/BatteryReader.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include <thread>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace brimlight::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto ample = 10s;
+
+QString supply(const char *rest)
+{
+    return QStringLiteral("sys/class/power_supply/") + QLatin1String(rest);
+}
+
+class PowerSourcesTest : public testing::Test
+{
+protected:
+    void set(const char *file, const QByteArray &content) const
+    {
+        machine.write(supply(file), content + '\n');
+    }
+    void unset(const char *file) const { machine.remove(supply(file)); }
+    BatterySnapshot read() { return BatteryReader::read(sources); }
+
+    Machine machine{MachineKind::laptopIntel};
+    SysfsPowerSources sources{machine.sys(), ample};
+};
+
+} // namespace
+
+TEST_F(PowerSourcesTest, ALaptopOnItsBattery)
+{
+    // 2851 mAh at 923 mA.
+    EXPECT_EQ(read(), (BatterySnapshot{.percent = 72,
+                                       .isCharging = false,
+                                       .isPluggedIn = false,
+                                       .hasBattery = true,
+                                       .timeToEmpty = 185,
+                                       .timeToFull = -1}));
+    EXPECT_EQ(BatteryHealthReader::read(sources),
+              (BatteryHealthSnapshot{.cycleCount = 187, .healthPercent = 90}));
+    EXPECT_EQ(sources.smartBattery()->temperature, 2980);
+}
+
+TEST(PowerSources, ALaptopThatCharges)
+{
+    const Machine machine(MachineKind::laptopAmd);
+    SysfsPowerSources sources(machine.sys(), ample);
+    // 12.825 Wh at 8.93 W; the mouse's battery is somebody else's.
+    EXPECT_EQ(BatteryReader::read(sources), (BatterySnapshot{.percent = 75,
+                                                             .isCharging = true,
+                                                             .isPluggedIn = true,
+                                                             .hasBattery = true,
+                                                             .timeToEmpty = -1,
+                                                             .timeToFull = 86}));
+    EXPECT_EQ(BatteryHealthReader::read(sources),
+              (BatteryHealthSnapshot{.cycleCount = 241, .healthPercent = 90}));
+    EXPECT_FALSE(sources.smartBattery()->temperature);
+}
+
+TEST(PowerSources, MachinesWithoutABattery)
+{
+    for (const MachineKind kind : {MachineKind::boardArm, MachineKind::virtualMachine}) {
+        const Machine machine(kind);
+        SysfsPowerSources sources(machine.sys(), ample);
+        EXPECT_EQ(BatteryReader::read(sources), BatterySnapshot{});
+        EXPECT_FALSE(BatteryHealthReader::read(sources));
+    }
+    SysfsPowerSources nowhere(QStringLiteral("/nowhere"), ample);
+    EXPECT_FALSE(nowhere.first());
+    EXPECT_FALSE(nowhere.smartBattery());
+}
+
+TEST(PowerSources, AMousesBatteryDoesNotMakeADesktopALaptop)
+{
+    const Machine machine(MachineKind::laptopAmd);
+    machine.remove(supply("BAT1"));
+    SysfsPowerSources sources(machine.sys(), ample);
+    EXPECT_FALSE(sources.first());
+    EXPECT_FALSE(sources.smartBattery());
+}
+
+TEST_F(PowerSourcesTest, TheCapacitiesAreMilliamperesOrTenthsOfMilliwattsTimesHours)
+{
+    const auto charge = sources.smartBattery();
+    EXPECT_EQ(charge->designCapacity, 4400);
+    EXPECT_EQ(charge->rawMaxCapacity, 3960);
+    EXPECT_FALSE(charge->maxCapacity);
+    unset("BAT0/charge_full");
+    unset("BAT0/charge_full_design");
+    set("BAT0/energy_full_design", "57000000");
+    set("BAT0/energy_full", "51300000");
+    const auto energy = sources.smartBattery();
+    EXPECT_EQ(energy->designCapacity, 5700);
+    EXPECT_EQ(energy->rawMaxCapacity, 5130);
+}
+
+TEST_F(PowerSourcesTest, OnlyTheFirstOfTwoBatteriesByNameCounts)
+{
+    set("BAT1/type", "Battery");
+    set("BAT1/status", "Charging");
+    set("BAT1/capacity", "11");
+    set("BAT1/cycle_count", "5");
+    EXPECT_EQ(read().percent, 72);
+    EXPECT_EQ(sources.smartBattery()->cycleCount, 187);
+    unset("BAT0");
+    EXPECT_EQ(read().percent, 11);
+    EXPECT_EQ(sources.smartBattery()->cycleCount, 5);
+}
+
+TEST_F(PowerSourcesTest, ABatteryThatIsTakenOutIsNotThere)
+{
+    set("BAT0/present", "0");
+    EXPECT_FALSE(sources.first());
+    EXPECT_FALSE(sources.smartBattery());
+    set("BAT0/present", "1");
+    EXPECT_TRUE(sources.first());
+    unset("BAT0/present");
+    EXPECT_TRUE(sources.first());
+}
+
+TEST_F(PowerSourcesTest, ABatteryAtZero)
+{
+    set("BAT0/capacity", "0");
+    set("BAT0/charge_now", "0");
+    const BatterySnapshot snapshot = read();
+    EXPECT_TRUE(snapshot.hasBattery);
+    EXPECT_EQ(snapshot.percent, 0);
+    EXPECT_EQ(snapshot.timeToEmpty, 0);
+}
+
+TEST_F(PowerSourcesTest, PercentComesFromTheGaugeWithoutACapacity)
+{
+    struct Row
+    {
+        const char *capacity;
+        const char *now;
+        const char *full;
+        int percent;
+    };
+    for (const Row &row : {
+             Row{"72", "1", "2", 72},
+             Row{"103", "1", "2", 100},
+             Row{"-1", "1000000", "4000000", 25},
+             Row{"", "1000000", "4000000", 25},
+             Row{"many", "5000000", "4000000", 100},
+             Row{"", "1000000", "0", -1},
+             Row{"", "", "4000000", -1},
+         }) {
+        set("BAT0/capacity", row.capacity);
+        set("BAT0/charge_now", row.now);
+        set("BAT0/charge_full", row.full);
+        EXPECT_EQ(read().percent, row.percent) << row.capacity << ' ' << row.now << ' ' << row.full;
+    }
+}
+
+TEST_F(PowerSourcesTest, AnySupplyThatIsOnlinePlugsIn)
+{
+    set("usb0/type", "USB");
+    set("usb0/online", "0");
+    EXPECT_FALSE(read().isPluggedIn);
+    set("usb0/online", "1");
+    EXPECT_TRUE(read().isPluggedIn);
+    set("usb0/online", "2");
+    EXPECT_TRUE(read().isPluggedIn);
+    set("usb0/scope", "Device");
+    EXPECT_FALSE(read().isPluggedIn);
+    set("AC/online", "1");
+    EXPECT_TRUE(read().isPluggedIn);
+    EXPECT_FALSE(read().isCharging);
+}
+
+TEST_F(PowerSourcesTest, WithoutSuppliesTheStatusTells)
+{
+    unset("AC");
+    struct Row
+    {
+        const char *status;
+        const char *current;
+        std::optional<QString> state;
+    };
+    const QString ac = QStringLiteral("AC Power");
+    const QString battery = QStringLiteral("Battery Power");
+    for (const Row &row : {
+             Row{"Charging", "500000", ac},
+             Row{"Full", "0", ac},
+             Row{"Not charging", "0", ac},
+             Row{"Discharging", "500000", battery},
+             Row{"Unknown", "-500000", battery},
+             Row{"Unknown", "500000", std::nullopt},
+             Row{"", "500000", std::nullopt},
+         }) {
+        set("BAT0/status", row.status);
+        set("BAT0/current_now", row.current);
+        EXPECT_EQ(sources.first()->powerSourceState, row.state) << row.status;
+        EXPECT_EQ(sources.first()->isCharging, row.status == QByteArray("Charging"));
+    }
+    set("AC/type", "Mains");
+    set("BAT0/status", "Full");
+    EXPECT_TRUE(read().isPluggedIn) << "a supply that does not tell";
+}
+
+TEST_F(PowerSourcesTest, TheTimesFollowTheDirection)
+{
+    struct Row
+    {
+        const char *online;
+        const char *status;
+        const char *current;
+        int toEmpty;
+        int toFull;
+    };
+    set("BAT0/charge_now", "1000000");
+    set("BAT0/charge_full", "4000000");
+    for (const Row &row : {
+             Row{"0", "Discharging", "1000000", 60, -1},
+             Row{"0", "Discharging", "-1000000", 60, -1},
+             Row{"1", "Discharging", "-500000", 120, -1},
+             Row{"1", "Charging", "1500000", -1, 120},
+             Row{"1", "Charging", "-1500000", -1, 120},
+             Row{"1", "Full", "1000", -1, -1},
+             Row{"1", "Not charging", "1000", -1, -1},
+             Row{"0", "Unknown", "1000000", 60, -1},
+             Row{"1", "Unknown", "1000000", -1, -1},
+             Row{"1", "Unknown", "-1000000", 60, -1},
+             Row{"0", "Discharging", "0", -1, -1},
+             Row{"0", "Discharging", "", -1, -1},
+             Row{"0", "Discharging", "12 or so", -1, -1},
+             // A month: the gauge has not settled.
+             Row{"0", "Discharging", "1300", -1, -1},
+         }) {
+        set("AC/online", row.online);
+        set("BAT0/status", row.status);
+        set("BAT0/current_now", row.current);
+        EXPECT_EQ(read().timeToEmpty, row.toEmpty) << row.status << ' ' << row.current;
+        EXPECT_EQ(read().timeToFull, row.toFull) << row.status << ' ' << row.current;
+    }
+}
+
+TEST_F(PowerSourcesTest, MoreThanFullIsNoTimeAway)
+{
+    set("BAT0/status", "Charging");
+    set("BAT0/charge_now", "5000000");
+    EXPECT_EQ(read().timeToFull, 0);
+}
+
+TEST_F(PowerSourcesTest, MissingAndSenselessFilesAreUnknownValues)
+{
+    for (const char *file : {"status", "capacity", "charge_now", "charge_full", "charge_full_design",
+                             "current_now", "cycle_count", "temp", "voltage_now", "voltage_min_design"}) {
+        const QByteArray path = QByteArray("BAT0/") + file;
+        machine.makeUnreadable(supply(path.constData()));
+    }
+    const BatterySnapshot unknown{.percent = -1, .isPluggedIn = false, .hasBattery = true};
+    EXPECT_EQ(read(), unknown);
+    EXPECT_EQ(sources.smartBattery()->cycleCount, std::nullopt);
+    EXPECT_FALSE(BatteryHealthReader::read(sources));
+}
+
+TEST_F(PowerSourcesTest, CapacitiesThatCannotBeAreAbsent)
+{
+    for (const char *value : {"-4400000", "99999999999999999", "1e6", "99999999999999999999999", ""}) {
+        set("BAT0/charge_full_design", value);
+        set("BAT0/cycle_count", value);
+        EXPECT_FALSE(sources.smartBattery()->designCapacity) << value;
+        EXPECT_FALSE(sources.smartBattery()->cycleCount) << value;
+    }
+}
+
+TEST(PowerSources, ASlowDriverLeavesTheLastValuesAndItsLateOnesFollow)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    SysfsPowerSources sources(machine.sys(), 1s);
+    const auto deadline = [] { return std::chrono::steady_clock::now() + 10s; };
+    const auto percent = [&] { return BatteryReader::read(sources).percent; };
+    for (const auto end = deadline(); percent() != 72 && std::chrono::steady_clock::now() < end;)
+        std::this_thread::yield();
+    ASSERT_EQ(percent(), 72);
+
+    const QString pipe = machine.makeBlocking(supply("BAT0/capacity"));
+    EXPECT_EQ(percent(), 72);
+    machine.write(supply("AC/online"), "1\n");
+    EXPECT_TRUE(BatteryReader::read(sources).isPluggedIn) << "other drivers are read on";
+    EXPECT_EQ(sources.smartBattery()->cycleCount, 187);
+
+    const int descriptor = ::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_CLOEXEC);
+    ASSERT_GE(descriptor, 0);
+    EXPECT_EQ(::write(descriptor, "64\n", 3), 3);
+    ::close(descriptor);
+    for (const auto end = deadline(); percent() != 64 && std::chrono::steady_clock::now() < end;)
+        std::this_thread::yield();
+    EXPECT_EQ(percent(), 64);
+}
+
+TEST(PowerSources, ThisMachineAnswers)
+{
+    SysfsPowerSources sources(QStringLiteral("/sys"), ample);
+    const BatterySnapshot snapshot = BatteryReader::read(sources);
+    EXPECT_EQ(snapshot.hasBattery, sources.smartBattery().has_value());
+    EXPECT_GE(snapshot.percent, -1);
+    EXPECT_LE(snapshot.percent, 100);
+}
+
+} // namespace brimlight::test

@@ -1,0 +1,129 @@
+#include "sensors/NetworkReader.h"
+
+#include "fakes/FakeHostStatistics.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace brimlight::test {
+
+class NetworkReaderTest : public testing::Test
+{
+protected:
+    NetworkReaderTest()
+    {
+        statistics.links = {link("eth0", 1000, 500)};
+        statistics.seconds = 100;
+    }
+
+    static InterfaceCounters link(const char *name, uint32_t received, uint32_t sent)
+    {
+        return {.name = QLatin1String(name), .received = received, .sent = sent};
+    }
+
+    FakeHostStatistics statistics;
+    NetworkReader reader{statistics};
+};
+
+TEST_F(NetworkReaderTest, TheFirstReadIsTheBaseline)
+{
+    EXPECT_EQ(reader.read(), NetSnapshot{});
+}
+
+TEST_F(NetworkReaderTest, UpIsSentAndDownIsReceivedPerSecond)
+{
+    reader.read();
+    statistics.links = {link("eth0", 1600, 700)};
+    statistics.seconds = 102;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 100, .down = 300}));
+}
+
+TEST_F(NetworkReaderTest, CountersThatStandStillAreNoTraffic)
+{
+    reader.read();
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read(), NetSnapshot{});
+}
+
+TEST_F(NetworkReaderTest, AThirdReadWithinOneTickGivesZeroAndMovesTheBaseline)
+{
+    reader.read();
+    statistics.links = {link("eth0", 2000, 1500)};
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 1000, .down = 1000}));
+    statistics.links = {link("eth0", 9000, 8500)};
+    EXPECT_EQ(reader.read(), NetSnapshot{});
+    statistics.links = {link("eth0", 9010, 8520)};
+    statistics.seconds = 102;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 20, .down = 10}));
+}
+
+TEST_F(NetworkReaderTest, AClockThatWentBackGivesZeroAndMovesTheBaseline)
+{
+    reader.read();
+    statistics.links = {link("eth0", 5000, 5000)};
+    statistics.seconds = 50;
+    EXPECT_EQ(reader.read(), NetSnapshot{});
+    statistics.links = {link("eth0", 5100, 5200)};
+    statistics.seconds = 51;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 200, .down = 100}));
+}
+
+TEST_F(NetworkReaderTest, AllLinksCountButLoopback)
+{
+    statistics.links = {link("lo", 0, 0),   link("eth0", 0, 0),    link("wlan0", 0, 0),
+                        link("tun0", 0, 0), link("docker0", 0, 0), link("lo1", 0, 0)};
+    reader.read();
+    statistics.links = {
+        link("lo", 1'000'000, 1'000'000), link("eth0", 1, 2),          link("wlan0", 10, 20),
+        link("tun0", 100, 200),           link("docker0", 1000, 2000), link("lo1", 1'000'000, 0)};
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 2222, .down = 1111}));
+}
+
+TEST_F(NetworkReaderTest, TheSumIsWiderThanItsCounters)
+{
+    constexpr uint32_t most = std::numeric_limits<uint32_t>::max();
+    statistics.links = {link("eth0", most - 10, 0), link("eth1", most - 10, 0)};
+    reader.read();
+    statistics.links = {link("eth0", most, 0), link("eth1", most, 0)};
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read().down, 20);
+}
+
+TEST_F(NetworkReaderTest, ACounterThatWrapsMakesOneSampleHuge)
+{
+    reader.read();
+    statistics.links = {link("eth0", 10, 600)};
+    statistics.seconds = 102;
+    const NetSnapshot wrapped = reader.read();
+    EXPECT_DOUBLE_EQ(wrapped.down, (18446744073709551616.0 - 990) / 2);
+    EXPECT_EQ(wrapped.up, 50);
+    statistics.links = {link("eth0", 30, 600)};
+    statistics.seconds = 103;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 0, .down = 20}));
+}
+
+TEST_F(NetworkReaderTest, WithoutInterfacesTheTotalsAreZero)
+{
+    statistics.links.clear();
+    reader.read();
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read(), NetSnapshot{});
+    statistics.links = {link("usb0", 70, 30)};
+    statistics.seconds = 102;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 30, .down = 70}));
+}
+
+TEST_F(NetworkReaderTest, EachReaderHasItsOwnBaseline)
+{
+    reader.read();
+    statistics.links = {link("eth0", 2000, 500)};
+    statistics.seconds = 101;
+    NetworkReader second(statistics);
+    EXPECT_EQ(second.read(), NetSnapshot{});
+    EXPECT_EQ(reader.read().down, 1000);
+}
+
+} // namespace brimlight::test
