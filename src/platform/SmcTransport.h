@@ -1,15 +1,10 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <cstdint>
+#include "platform/SmcRecord.h"
+
 #include <optional>
 
 namespace brimlight {
-
-/// The one record of the system management controller's protocol, the same layout both ways. Integers are
-/// little-endian.
-using SmcRecord = std::array<uint8_t, 80>;
 
 struct SmcReply
 {
@@ -20,7 +15,7 @@ struct SmcReply
     size_t size = 0;
 };
 
-/// Carries records to the system management controller and back.
+/// Carries records to the system management controller and back. A call takes as long as the controller does.
 class SmcTransport
 {
 public:

@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <system_error>
@@ -27,11 +28,22 @@ ssize_t readSome(int descriptor, char *to, size_t size)
     return count;
 }
 
+/// Reads come in bursts, and most take less time than putting a thread to sleep and waking it up.
+constexpr std::chrono::microseconds burstGap{100};
+
+template<typename Condition>
+void lookOutFor(const Condition &condition)
+{
+    const auto end = Clock::now() + burstGap;
+    while (!condition() && Clock::now() < end)
+        std::this_thread::yield();
+}
+
 struct Job
 {
     QString key;
     std::function<void()> body;
-    bool isDone = false;
+    std::atomic<bool> isDone = false;
     bool isLate = false;
 };
 
@@ -62,6 +74,7 @@ struct BoundedRead::State
     std::condition_variable done;
     /// What no worker has taken yet.
     std::shared_ptr<Job> waiting;
+    std::atomic<bool> hasWaiting = false;
     bool hasWorker = false;
     bool isOver = false;
     int late = 0;
@@ -100,6 +113,7 @@ void BoundedRead::work(const std::shared_ptr<State> &state)
     for (;;) {
         state->given.wait(lock, [&] { return state->waiting || state->isOver; });
         const std::shared_ptr<Job> job = std::exchange(state->waiting, nullptr);
+        state->hasWaiting = false;
         if (!job)
             return;
         lock.unlock();
@@ -113,6 +127,9 @@ void BoundedRead::work(const std::shared_ptr<State> &state)
             return;
         }
         state->done.notify_one();
+        lock.unlock();
+        lookOutFor([&] { return state->hasWaiting.load(); });
+        lock.lock();
     }
 }
 
@@ -134,14 +151,21 @@ bool BoundedRead::run(const QString &key, std::function<void()> body)
         }
         m_state->hasWorker = true;
     }
-    const auto job = std::make_shared<Job>(Job{key, std::move(body)});
+    const auto job = std::make_shared<Job>();
+    job->key = key;
+    job->body = std::move(body);
     m_state->waiting = job;
+    m_state->hasWaiting = true;
     m_state->given.notify_one();
-    if (m_state->done.wait_for(lock, m_patience, [&] { return job->isDone; }))
+    lock.unlock();
+    lookOutFor([&] { return job->isDone.load(); });
+    lock.lock();
+    if (m_state->done.wait_for(lock, m_patience, [&] { return job->isDone.load(); }))
         return true;
     if (m_state->waiting == job) {
         // The machine was too busy for the worker itself.
         m_state->waiting.reset();
+        m_state->hasWaiting = false;
         return false;
     }
     job->isLate = true;

@@ -21,8 +21,9 @@ std::optional<QByteArray> smallFile(const QString &path, qsizetype limit = 1 << 
 /// until one comes back.
 ///
 /// Belongs to one thread, and what it is given to call may not use it in turn. It can be destroyed while
-/// calls are late. Separate objects do not disturb each other; an object costs a thread from its first use
-/// on, and a call some thirty microseconds.
+/// calls are late. Separate objects do not disturb each other. An object costs a thread from its first use
+/// on, and a call a microsecond; the first one after a pause costs some fifty, for the worker has to be woken
+/// up.
 class BoundedRead
 {
 public:

@@ -1,0 +1,393 @@
+#include "platform/linux/HwmonSmc.h"
+
+#include "fakes/Fakes.h"
+#include "fakes/SensorFakes.h"
+#include "fixtures/machines.h"
+#include "sensors/SMCBridge.h"
+#include "sensors/TemperatureValueDecoder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace brimlight::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Long enough for what answers on a busy machine.
+constexpr auto ample = 10s;
+
+/// A machine's sensors as the other side of the protocol sees them.
+class Sensors
+{
+public:
+    explicit Sensors(const Machine &machine, std::chrono::milliseconds patience = ample)
+        : reader(patience)
+        , smc(reader, machine.sys())
+        , connection(SMCConnection::open(smc))
+    {
+    }
+
+    QStringList keys() const
+    {
+        QStringList list;
+        for (uint32_t i = 0; i < connection->keyCount().value_or(0); ++i)
+            list.append(connection->keyAt(i).value_or(QStringLiteral("?")));
+        return list;
+    }
+    std::optional<double> celsius(const char *key) const
+    {
+        const auto value = connection->readValue(QLatin1String(key));
+        if (!value)
+            return std::nullopt;
+        return TemperatureValueDecoder::decodeSMCFloat(value->data, value->info.dataSize,
+                                                       value->info.dataType);
+    }
+
+    BoundedRead reader;
+    HwmonSmc smc;
+    std::unique_ptr<SMCConnection> connection;
+};
+
+std::optional<TemperatureReading> readingOf(const Machine &machine)
+{
+    BoundedRead reader(ample);
+    HwmonSmc smc(reader, machine.sys());
+    FakeMachine info;
+    FakePower power;
+    MemoryDefaults defaults;
+    RecordingLog log;
+    ManualScheduler scheduler;
+    const auto bridge = SMCBridge::open(smc, info, power, defaults, log, scheduler);
+    return bridge ? bridge->readTemperatureReading() : std::nullopt;
+}
+
+/// Adds a chip in the simplest place. Each sensor is a label, which may be empty, and millidegrees.
+void addChip(const Machine &machine, const QString &hwmon, const char *name,
+             std::initializer_list<std::pair<const char *, int>> sensors)
+{
+    const QString folder = QStringLiteral("sys/class/hwmon/") + hwmon;
+    machine.write(folder + QStringLiteral("/name"), QByteArray(name) + '\n');
+    int number = 1;
+    for (const auto &[label, milli] : sensors) {
+        const QString sensor = QStringLiteral("%1/temp%2_").arg(folder).arg(number++);
+        machine.write(sensor + QStringLiteral("input"), QByteArray::number(milli) + '\n');
+        if (*label)
+            machine.write(sensor + QStringLiteral("label"), QByteArray(label) + '\n');
+    }
+}
+
+QString coretempFile(const Machine &machine, const char *file)
+{
+    return machine.hwmon(QStringLiteral("coretemp")) + u'/' + QLatin1String(file);
+}
+
+} // namespace
+
+TEST(HwmonSmc, ALaptopGivesItsHottestCoreAndItsBattery)
+{
+    const auto intel = readingOf(Machine(MachineKind::laptopIntel));
+    ASSERT_TRUE(intel);
+    EXPECT_EQ(intel->cpuMaxC, 52);
+    EXPECT_NEAR(intel->batteryC.value(), 29.8, 1e-5);
+    const auto amd = readingOf(Machine(MachineKind::laptopAmd));
+    ASSERT_TRUE(amd);
+    EXPECT_EQ(amd->cpuMaxC, 48.125);
+    EXPECT_FALSE(amd->batteryC);
+}
+
+TEST(HwmonSmc, ABoardGivesItsOneSensor)
+{
+    const auto reading = readingOf(Machine(MachineKind::boardArm));
+    ASSERT_TRUE(reading);
+    EXPECT_NEAR(reading->cpuMaxC.value(), 47.712, 1e-5);
+}
+
+TEST(HwmonSmc, WithoutHwmonThereIsNoController)
+{
+    EXPECT_FALSE(Sensors(Machine(MachineKind::virtualMachine)).connection);
+    BoundedRead reader(ample);
+    HwmonSmc nowhere(reader, QStringLiteral("/nonexistent"));
+    EXPECT_FALSE(nowhere.open());
+}
+
+TEST(HwmonSmc, ABatteryOrADriveAloneIsNoController)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    machine.removeHwmon(QStringLiteral("coretemp"));
+    EXPECT_FALSE(Sensors(machine).connection) << "so that the thermal zones are asked";
+}
+
+TEST(HwmonSmc, ListsTheProcessorBeforeTheOthers)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    const Sensors sensors(machine);
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("B0AT Tp00 Tp01 Tp02 Tp03 Tp04 Ts00 Ts01 Ts02"));
+    EXPECT_EQ(sensors.celsius("Tp00"), 50) << "Core 0";
+    EXPECT_EQ(sensors.celsius("Tp01"), 49) << "Core 1";
+    EXPECT_EQ(sensors.celsius("Tp04"), 52) << "Package id 0";
+    EXPECT_NEAR(sensors.celsius("B0AT").value(), 29.8, 1e-5);
+}
+
+TEST(HwmonSmc, AnInfoSaysFloatForTheProcessorOnly)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    const Sensors sensors(machine);
+    const auto info = [&sensors](const char *key) {
+        return sensors.connection->readKeyInfo(SmcLayout::code(key));
+    };
+    EXPECT_EQ(info("Tp00"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
+    EXPECT_EQ(info("B0AT"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
+    EXPECT_EQ(info("Ts00"), (SMCConnection::KeyInfo{2, SmcLayout::code("sp78"), 0}));
+    EXPECT_FALSE(info("Ts99"));
+    const auto firmware = sensors.connection->readValue(QStringLiteral("Ts00"));
+    ASSERT_TRUE(firmware);
+    EXPECT_EQ(firmware->data, QByteArray::fromHex("1bcd")) << "27.8 degrees, 8 bits after the point";
+}
+
+TEST(HwmonSmc, AnswersNothingThatItWasNotAsked)
+{
+    const Machine machine(MachineKind::boardArm);
+    BoundedRead reader(ample);
+    HwmonSmc smc(reader, machine.sys());
+    EXPECT_NE(smc.call(1, {}).returnCode, 0) << "not open";
+    const auto connection = smc.open();
+    ASSERT_TRUE(connection);
+    SmcRecord request{};
+    SmcLayout::store(request, SmcLayout::code("Tp00"), SmcLayout::key);
+    EXPECT_NE(smc.call(*connection, request).record[SmcLayout::result], 0) << "no command";
+    request[SmcLayout::command] = SmcLayout::readValue;
+    EXPECT_EQ(smc.call(*connection, request).record[SmcLayout::result], 0);
+    EXPECT_EQ(smc.call(*connection, request).size, 80U);
+    EXPECT_NE(smc.call(*connection + 1, request).returnCode, 0) << "somebody else's";
+    request[SmcLayout::command] = SmcLayout::readIndex;
+    SmcLayout::store(request, 1, SmcLayout::index);
+    EXPECT_NE(smc.call(*connection, request).record[SmcLayout::result], 0) << "past the last key";
+    smc.close(*connection);
+    EXPECT_NE(smc.call(*connection, request).returnCode, 0) << "closed";
+}
+
+TEST(HwmonSmc, ChipsNumberedOtherwiseAtTheNextBootHaveTheSameKeys)
+{
+    for (const MachineKind kind : {MachineKind::laptopIntel, MachineKind::laptopAmd}) {
+        const Machine first(kind);
+        const Sensors before(first);
+        for (int boot = 1; boot < 5; ++boot) {
+            const Machine second(kind, boot);
+            const Sensors after(second);
+            ASSERT_EQ(after.keys(), before.keys());
+            for (const QString &key : before.keys())
+                EXPECT_EQ(after.connection->readValue(key)->data, before.connection->readValue(key)->data);
+        }
+    }
+}
+
+TEST(HwmonSmc, TwoChipsOfANameAreToldApartByTheirDevices)
+{
+    for (const bool swapped : {false, true}) {
+        const Machine machine(MachineKind::virtualMachine);
+        for (int socket = 0; socket < 2; ++socket) {
+            const QString device = QStringLiteral("sys/devices/platform/coretemp.%1").arg(socket);
+            const QString chip = QStringLiteral("hwmon%1").arg(swapped ? 1 - socket : socket);
+            addChip(machine, chip, "coretemp", {{"Package", 40000 + 1000 * socket}});
+            machine.write(device + QStringLiteral("/modalias"), "platform:coretemp\n");
+            ASSERT_TRUE(QFile::link(machine.path(device),
+                                    machine.path(QStringLiteral("sys/class/hwmon/%1/device").arg(chip))));
+        }
+        const Sensors sensors(machine);
+        EXPECT_EQ(sensors.celsius("Tp00"), 40);
+        EXPECT_EQ(sensors.celsius("Tp01"), 41);
+    }
+}
+
+TEST(HwmonSmc, KnowsTheChipsOfProcessors)
+{
+    for (const char *chip : {"coretemp", "k10temp", "k8temp", "zenpower", "via_cputemp", "cpu_thermal",
+                             "cpu-thermal", "cpu0_thermal", "cpu_big_thermal", "littlecore_thermal"}) {
+        const Machine machine(MachineKind::virtualMachine);
+        addChip(machine, QStringLiteral("hwmon0"), chip, {{"", 51000}});
+        EXPECT_EQ(Sensors(machine).keys(), QStringList{QStringLiteral("Tp00")}) << chip;
+    }
+    for (const char *chip : {"acpitz", "nvme", "amdgpu", "iwlwifi_1", "gpu_thermal", "cpufreq", ""}) {
+        const Machine machine(MachineKind::virtualMachine);
+        addChip(machine, QStringLiteral("hwmon0"), chip, {{"", 51000}});
+        EXPECT_FALSE(Sensors(machine).connection) << chip;
+    }
+}
+
+TEST(HwmonSmc, FirmwareForAllPartsCountsByItsLabels)
+{
+    const Machine machine(MachineKind::virtualMachine);
+    addChip(machine, QStringLiteral("hwmon0"), "macsmc_hwmon",
+            {{"NAND", 36000}, {"CPU core 1", 61000}, {"Battery", 33000}});
+    addChip(machine, QStringLiteral("hwmon1"), "scpi_sensors", {{"big cluster", 55000}, {"pmic", 40000}});
+    const Sensors sensors(machine);
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("Tp00 Tp01 Ts00 Ts01 Ts02"));
+    EXPECT_EQ(sensors.celsius("Tp00"), 61);
+    EXPECT_EQ(sensors.celsius("Tp01"), 55);
+}
+
+TEST(HwmonSmc, TheTrueDieTemperatureReplacesTheControlValue)
+{
+    const Machine machine(MachineKind::virtualMachine);
+    addChip(machine, QStringLiteral("hwmon0"), "k10temp",
+            {{"Tctl", 75000}, {"Tdie", 48000}, {"Tccd1", 47000}});
+    const Sensors sensors(machine);
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("Tp00 Tp01 Ts00"));
+    EXPECT_EQ(sensors.celsius("Tp00"), 47) << "Tccd1";
+    EXPECT_EQ(sensors.celsius("Tp01"), 48) << "Tdie";
+    EXPECT_EQ(readingOf(machine)->cpuMaxC, 48);
+}
+
+TEST(HwmonSmc, ManySensorsHaveKeysOfTheirOwn)
+{
+    const Machine machine(MachineKind::virtualMachine);
+    const QString folder = QStringLiteral("sys/class/hwmon/hwmon0/");
+    machine.write(folder + QStringLiteral("name"), "coretemp\n");
+    for (int i = 1; i <= 130; ++i)
+        machine.write(folder + QStringLiteral("temp%1_input").arg(i), QByteArray::number(i * 1000));
+    machine.write(folder + QStringLiteral("tempX_input"), "1\n");
+    const Sensors sensors(machine);
+    const QStringList keys = sensors.keys();
+    ASSERT_EQ(keys.size(), 130);
+    EXPECT_EQ(QSet<QString>(keys.begin(), keys.end()).size(), 130);
+    EXPECT_EQ(keys.at(62), QStringLiteral("Tp10"));
+    EXPECT_EQ(sensors.celsius("Tp10"), 63) << "in the order of their numbers, not their names";
+}
+
+TEST(HwmonSmc, AFileThatVanishesHoldsGarbageOrFailsIsAFailure)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    const Sensors sensors(machine);
+    const QString core0 = coretempFile(machine, "temp2_input");
+    for (const char *garbage : {"", "\n", "fifty\n", "50000 mC\n", "50.0\n", "99999999999999999999\n"}) {
+        machine.write(core0, garbage);
+        EXPECT_FALSE(sensors.celsius("Tp00")) << garbage;
+    }
+    machine.write(core0, "50000\n");
+    EXPECT_EQ(sensors.celsius("Tp00"), 50);
+    machine.makeUnreadable(core0);
+    EXPECT_FALSE(sensors.celsius("Tp00"));
+    machine.remove(core0);
+    EXPECT_FALSE(sensors.celsius("Tp00"));
+    EXPECT_EQ(sensors.celsius("Tp01"), 49) << "the others go on";
+    machine.removeHwmon(QStringLiteral("coretemp"));
+    EXPECT_FALSE(sensors.celsius("Tp01")) << "the whole chip is gone";
+}
+
+TEST(HwmonSmc, AChipThatComesBackUnderAnotherNumberIsNotMistaken)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    const Sensors sensors(machine);
+    const QString number = machine.hwmon(QStringLiteral("coretemp"));
+    machine.removeHwmon(QStringLiteral("coretemp"));
+    addChip(machine, number.section(u'/', -1), "nvme", {{"", 70000}, {"", 71000}});
+    EXPECT_FALSE(sensors.celsius("Tp00"));
+}
+
+TEST(HwmonSmc, AnImpossibleValueIsPassedOnAndDroppedInTheReading)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    machine.write(coretempFile(machine, "temp2_input"), "65273000\n");
+    machine.write(coretempFile(machine, "temp3_input"), "-5000\n");
+    EXPECT_EQ(Sensors(machine).celsius("Tp00"), 65273);
+    EXPECT_EQ(Sensors(machine).celsius("Tp01"), -5);
+    EXPECT_EQ(readingOf(machine)->cpuMaxC, 52);
+}
+
+TEST(HwmonSmc, ASensorThatBlocksFailsAndTheOthersGoOn)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    const Sensors sensors(machine, 250ms);
+    const QString pipe = machine.makeBlocking(coretempFile(machine, "temp2_input"));
+    EXPECT_FALSE(sensors.celsius("Tp00"));
+    EXPECT_FALSE(sensors.celsius("Tp00"));
+    EXPECT_EQ(sensors.reader.lateCount(), 1) << "asked once";
+    EXPECT_EQ(sensors.celsius("Tp01"), 49);
+    QFile writer(pipe);
+    EXPECT_TRUE(writer.open(QIODevice::WriteOnly)) << "lets the reader go";
+}
+
+TEST(HwmonSmc, ASleepingDeviceIsNotRead)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    const QString status = QStringLiteral("sys/devices/platform/coretemp.0/power/runtime_status");
+    const Sensors sensors(machine, 250ms);
+    EXPECT_EQ(sensors.celsius("Tp00"), 50);
+    // Reading this would block, and so would be noticed.
+    const QString core0 = coretempFile(machine, "temp2_input");
+    machine.makeBlocking(core0);
+    for (const char *asleep : {"suspended\n", "suspending\n"}) {
+        machine.write(status, asleep);
+        EXPECT_FALSE(sensors.celsius("Tp00")) << asleep;
+        EXPECT_EQ(sensors.reader.lateCount(), 0) << asleep;
+    }
+    machine.remove(core0);
+    machine.write(core0, "50000\n");
+    for (const char *awake : {"active\n", "resuming\n", "unsupported\n", "error\n"}) {
+        machine.write(status, awake);
+        EXPECT_EQ(sensors.celsius("Tp00"), 50) << awake;
+    }
+}
+
+TEST(HwmonSmc, ListingTheKeysDoesNotReadOtherPartsSensors)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    machine.makeBlocking(machine.hwmon(QStringLiteral("nvme")) + QStringLiteral("/temp1_input"));
+    BoundedRead reader(ample);
+    HwmonSmc smc(reader, machine.sys());
+    FakeMachine info;
+    FakePower power;
+    MemoryDefaults defaults;
+    RecordingLog log;
+    ManualScheduler scheduler;
+    EXPECT_TRUE(SMCBridge::open(smc, info, power, defaults, log, scheduler));
+    EXPECT_TRUE(log.messages().first().contains(QLatin1String("cpu=5, gpu=0")));
+    EXPECT_EQ(reader.lateCount(), 0);
+}
+
+TEST(HwmonSmc, TheBatteryIsTheSystemsOwn)
+{
+    const Machine machine(MachineKind::laptopAmd);
+    const QString supplies = QStringLiteral("sys/class/power_supply/");
+    machine.write(supplies + QStringLiteral("hidpp_battery_0/temp"), "210\n");
+    machine.write(supplies + QStringLiteral("ACAD/temp"), "220\n");
+    const Sensors sensors(machine);
+    EXPECT_FALSE(sensors.celsius("B0AT")) << "neither the mouse's nor the adapter's";
+    EXPECT_FALSE(sensors.keys().contains(QStringLiteral("B0AT")));
+    machine.write(supplies + QStringLiteral("BAT1/temp"), "355\n");
+    EXPECT_NEAR(sensors.celsius("B0AT").value(), 35.5, 1e-5) << "told later";
+    machine.write(supplies + QStringLiteral("BAT1/temp"), "warm\n");
+    EXPECT_FALSE(sensors.celsius("B0AT"));
+    machine.write(supplies + QStringLiteral("BAT2/type"), "Battery\n");
+    machine.write(supplies + QStringLiteral("BAT2/temp"), "-12\n");
+    EXPECT_NEAR(sensors.celsius("B0AT").value(), -1.2, 1e-5) << "the next one that tells";
+    machine.remove(supplies + QStringLiteral("BAT2"));
+    EXPECT_FALSE(sensors.celsius("B0AT")) << "taken out";
+}
+
+TEST(HwmonSmc, CalibrationIsSkippedAtTheNextBootEvenWithOtherNumbers)
+{
+    FakeMachine info;
+    FakePower power;
+    MemoryDefaults defaults;
+    RecordingLog log;
+    ManualScheduler scheduler;
+    for (const int boot : {0, 3}) {
+        const Machine machine(MachineKind::laptopIntel, boot);
+        machine.write(coretempFile(machine, "temp4_input"), "95000\n");
+        BoundedRead reader(ample);
+        HwmonSmc smc(reader, machine.sys());
+        const auto bridge = SMCBridge::open(smc, info, power, defaults, log, scheduler);
+        ASSERT_TRUE(bridge);
+        EXPECT_TRUE(bridge->readTemperatureReading());
+        scheduler.advance(60s);
+        EXPECT_TRUE(bridge->readTemperatureReading());
+        EXPECT_EQ(bridge->readTemperatureReading()->cpuMaxC, 52) << "boot " << boot;
+    }
+    EXPECT_TRUE(log.messages().last().endsWith(QLatin1String("restored=1, calibration=skipped)")));
+}
+
+} // namespace brimlight::test
