@@ -47,13 +47,15 @@
 #include "widgets/WorldClockWidget.h"
 
 // Static libraries: naming the registrations keeps the linker from dropping them.
+void qml_register_types_Brimlight_Sensors();
 void qml_register_types_Brimlight_Widgets();
 
 namespace brimlight {
 namespace {
 
 using Registration = void (*)();
-[[gnu::used]] const Registration registrations[] = {&qml_register_types_Brimlight_Widgets};
+[[gnu::used]] const Registration registrations[] = {&qml_register_types_Brimlight_Sensors,
+                                                    &qml_register_types_Brimlight_Widgets};
 
 } // namespace
 

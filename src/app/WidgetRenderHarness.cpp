@@ -10,6 +10,7 @@
 #include "grid/WidgetRegistry.h"
 #include "platform/Appearance.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "sensors/SensorStores.h"
 #include "theme/ThemeStore.h"
 
 #include <QDir>
@@ -41,7 +42,9 @@ Outcome renderAll(const QString &folder)
     ThemeStore theme(paths.appSupportFile(QStringLiteral("theme.json")), ports.defaults, ports.log);
     AppSettings settings(ports.defaults);
     TickCoordinator ticker(ports.scheduler, log);
-    const WidgetEnvironment environment{registry, grid, theme, settings, ticker, {}};
+    SensorStores sensors(ports);
+    sensors.history.setActive(true);
+    const WidgetEnvironment environment{registry, grid, theme, settings, ticker, sensors.named()};
     WidgetCatalog catalog(environment);
     WidgetRenderer renderer(catalog, theme);
 

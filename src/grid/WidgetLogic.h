@@ -28,9 +28,18 @@ Q_SIGNALS:
     void changed();
 
 protected:
+    /// On each tick while the view can be seen, before `changed`.
+    virtual void tick() {}
+    /// Each time the view can be seen again, before `changed`.
+    virtual void appear() {}
+
     /// The date of the last tick.
     QDateTime now() const;
     WidgetSize size() const;
+    /// The stored option of the instance; absent when there is none.
+    std::optional<QString> option(const QString &key) const;
+    Theme theme() const;
+    bool isCelsius() const;
 
 private:
     QPointer<WidgetContext> m_context;

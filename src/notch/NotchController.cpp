@@ -27,7 +27,8 @@ NotchController::NotchController(const Platform &platform, NotchHosting &hosting
     , m_grid(AppPaths(platform.folders).appSupportFile(QStringLiteral("grid.json")), widgets)
     , m_ticker(platform.scheduler, log)
     , m_appSettings(platform.defaults)
-    , m_environment{widgets, m_grid, m_theme, m_appSettings, m_ticker, {}}
+    , m_sensors(platform)
+    , m_environment{widgets, m_grid, m_theme, m_appSettings, m_ticker, m_sensors.named()}
     , m_tiles(m_grid)
     , m_gridDrag(m_grid, m_viewModel)
     , m_catalog(m_environment)
@@ -77,6 +78,9 @@ void NotchController::subscribe()
         clampCurrentPage();
         resizeIfExpanded();
     });
+    const auto sample = [this] { updateHistorySampling(); };
+    onNextTurn(&m_grid, &GridStore::layoutChanged, sample);
+    m_scheduler.post(*this, sample);
     const auto resize = [this] { resizeIfExpanded(); };
     onNextTurn(&m_viewModel, &NotchViewModel::currentPageChanged, resize);
     const auto applyRefreshRate = [this] { m_ticker.setInterval(interval(m_appSettings.refreshRate())); };
@@ -117,6 +121,7 @@ void NotchController::setExpanded(bool expanded)
         m_collapseWork.cancel();
     }
     m_ticker.setActive(expanded);
+    updateHistorySampling();
     const Rect frame = frameFor(expanded, *screen);
     m_panel.setContentVisible(expanded);
     m_panel.setFrame(frame, true);
@@ -303,6 +308,15 @@ int NotchController::pageCount() const
     // A stored layout can have more pages than anybody turns.
     constexpr qint64 most = std::numeric_limits<int>::max();
     return static_cast<int>(std::clamp<qint64>(m_grid.layout().pageCount, 1, most));
+}
+
+void NotchController::updateHistorySampling()
+{
+    const auto drawsHistory = [](const WidgetInstance &instance) {
+        return instance.kind == QLatin1String("usagegraph");
+    };
+    m_sensors.history.setActive(m_viewModel.isExpanded() ||
+                                std::ranges::any_of(m_grid.layout().instances, drawsHistory));
 }
 
 void NotchController::clampCurrentPage()

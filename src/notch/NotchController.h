@@ -16,6 +16,7 @@
 #include "notch/Placement.h"
 #include "platform/Platform.h"
 #include "platform/WorkItem.h"
+#include "sensors/SensorStores.h"
 #include "theme/Motion.h"
 #include "theme/ThemeStore.h"
 
@@ -100,6 +101,7 @@ public:
     PageControls *pageControls() { return &m_pageControls; }
     AppSettings *appSettings() { return &m_appSettings; }
     TickCoordinator *ticker() { return &m_ticker; }
+    SensorStores &sensors() { return m_sensors; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
     bool isCollapsePending() const { return m_collapseWork.isPending(); }
 
@@ -125,6 +127,9 @@ private:
     void resizeIfExpanded();
     int pageCount() const;
     void clampCurrentPage();
+    /// The usage graph needs its history at once when the panel opens; anything else is sampled for eyes
+    /// only.
+    void updateHistorySampling();
 
     NotchHosting &m_hosting;
     Scheduler &m_scheduler;
@@ -139,6 +144,7 @@ private:
     GridStore m_grid;
     TickCoordinator m_ticker;
     AppSettings m_appSettings;
+    SensorStores m_sensors;
     WidgetEnvironment m_environment;
     TileModel m_tiles;
     GridDrag m_gridDrag;

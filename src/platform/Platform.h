@@ -2,10 +2,15 @@
 
 #include "platform/Appearance.h"
 #include "platform/Folders.h"
+#include "platform/HostStatistics.h"
 #include "platform/Log.h"
+#include "platform/MachineInfo.h"
 #include "platform/Pointer.h"
+#include "platform/PowerSources.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
+#include "platform/SmcTransport.h"
+#include "platform/ThermalServices.h"
 #include "platform/UnixSignals.h"
 #include "platform/UserDefaults.h"
 
@@ -22,6 +27,11 @@ struct Platform
     Pointer &pointer;
     UnixSignals &unixSignals;
     Appearance &appearance;
+    HostStatistics &statistics;
+    PowerSources &power;
+    MachineInfo &machine;
+    SmcTransport &smc;
+    ThermalServices &thermal;
 };
 
 } // namespace brimlight

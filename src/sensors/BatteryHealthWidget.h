@@ -16,7 +16,12 @@ struct BatteryHealthWidget
                 .defaultSize = WidgetSize::small,
                 .refresh = RefreshCadence::never()};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/BatteryHealthView.qml")),
+                .stores = {QStringLiteral("machine")}};
+    }
 };
 
 } // namespace brimlight

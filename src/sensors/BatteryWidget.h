@@ -17,7 +17,13 @@ struct BatteryWidget
                 .refresh = RefreshCadence::seconds(30),
                 .hasSettings = true};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/BatteryView.qml")),
+                .settingsView = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/BatterySettings.qml")),
+                .stores = {QStringLiteral("machine")}};
+    }
 };
 
 } // namespace brimlight

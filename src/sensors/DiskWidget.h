@@ -16,7 +16,12 @@ struct DiskWidget
                 .defaultSize = WidgetSize::small,
                 .refresh = RefreshCadence::seconds(10)};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/DiskView.qml")),
+                .stores = {QStringLiteral("machine")}};
+    }
 };
 
 } // namespace brimlight

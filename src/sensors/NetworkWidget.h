@@ -16,7 +16,12 @@ struct NetworkWidget
                 .defaultSize = WidgetSize::wide,
                 .refresh = RefreshCadence::seconds(1)};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/NetworkView.qml")),
+                .stores = {QStringLiteral("machine")}};
+    }
 };
 
 } // namespace brimlight

@@ -16,7 +16,12 @@ struct SystemInfoWidget
                 .defaultSize = WidgetSize::large,
                 .refresh = RefreshCadence::seconds(5)};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/SystemInfoView.qml")),
+                .stores = {QStringLiteral("machine")}};
+    }
 };
 
 } // namespace brimlight

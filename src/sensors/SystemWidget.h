@@ -16,7 +16,12 @@ struct SystemWidget
                 .defaultSize = WidgetSize::wide,
                 .refresh = RefreshCadence::seconds(2)};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/SystemView.qml")),
+                .stores = {QStringLiteral("machine")}};
+    }
 };
 
 } // namespace brimlight

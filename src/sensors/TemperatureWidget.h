@@ -16,7 +16,12 @@ struct TemperatureWidget
                 .defaultSize = WidgetSize::small,
                 .refresh = RefreshCadence::seconds(2)};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/TemperatureView.qml")),
+                .stores = {QStringLiteral("machine"), QStringLiteral("temperature")}};
+    }
 };
 
 } // namespace brimlight

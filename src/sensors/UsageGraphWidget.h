@@ -17,7 +17,12 @@ struct UsageGraphWidget
                 .defaultSize = WidgetSize::large,
                 .refresh = RefreshCadence::seconds(2)};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/UsageGraphView.qml")),
+                .stores = {QStringLiteral("systemHistory")}};
+    }
 };
 
 } // namespace brimlight

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "fakes/FakeHostStatistics.h"
+#include "fakes/FakePowerSources.h"
 #include "fakes/Fakes.h"
+#include "fakes/SensorFakes.h"
 #include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
 
@@ -99,7 +102,13 @@ protected:
     FakePointer pointer;
     FakeSignals unixSignals;
     FakeAppearance appearance;
-    Platform platform{scheduler, defaults, folders, recorded, screens, pointer, unixSignals, appearance};
+    FakeHostStatistics statistics;
+    FakePowerSources power;
+    FakeMachine machine;
+    FakeSmc smc;
+    FakeThermal thermal;
+    Platform platform{scheduler,  defaults,   folders, recorded, screens, pointer, unixSignals,
+                      appearance, statistics, power,   machine,  smc,     thermal};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

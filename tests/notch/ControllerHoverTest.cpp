@@ -213,7 +213,7 @@ TEST_F(Hover, MonitorsAndPollExistOnlyWhileExpanded)
     openByHover();
     EXPECT_EQ(pointer.local.size(), 1u);
     EXPECT_EQ(pointer.global.size(), 1u);
-    EXPECT_EQ(scheduler.repeatingCount(), 2) << "the poll and the tick";
+    EXPECT_EQ(scheduler.repeatingCount(), 3) << "the poll, the tick and the history of the load";
     leave();
     scheduler.advance(120ms);
     EXPECT_TRUE(pointer.local.empty());

@@ -91,12 +91,13 @@ TEST_F(Header, OnePageShowsOneCapsuleAndTheAddButton)
     start();
     setPages(1);
     open();
-    EXPECT_EQ(scene.namesOf(QAccessible::PageTab), QStringList{QStringLiteral("1")});
+    EXPECT_EQ(scene.namesOf(QAccessible::PageTab), QStringList{QStringLiteral("Page 1")});
     QQuickItem *add = scene.button(QStringLiteral("Add page"));
     ASSERT_TRUE(add);
     scene.click(*add);
     settle();
-    EXPECT_EQ(scene.namesOf(QAccessible::PageTab), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
+    EXPECT_EQ(scene.namesOf(QAccessible::PageTab),
+              (QStringList{QStringLiteral("Page 1"), QStringLiteral("Page 2")}));
     EXPECT_EQ(model().currentPage(), 1);
 }
 

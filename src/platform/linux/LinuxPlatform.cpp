@@ -1,11 +1,17 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/linux/BoundedRead.h"
 #include "platform/linux/DesktopAppearance.h"
+#include "platform/linux/HwmonSmc.h"
 #include "platform/linux/JournalLog.h"
 #include "platform/linux/JsonUserDefaults.h"
+#include "platform/linux/LinuxHostStatistics.h"
+#include "platform/linux/LinuxMachineInfo.h"
 #include "platform/linux/PipeUnixSignals.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/QtScreens.h"
+#include "platform/linux/SysfsPowerSources.h"
+#include "platform/linux/ThermalZones.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11OverlaySurface.h"
 #include "platform/linux/X11Pointer.h"
@@ -54,6 +60,12 @@ struct LinuxPlatform::Backends
     X11Pointer pointer{x11.get()};
     PipeUnixSignals unixSignals;
     DesktopAppearance appearance{scheduler};
+    LinuxHostStatistics statistics;
+    SysfsPowerSources power;
+    LinuxMachineInfo machine;
+    BoundedRead sensors;
+    HwmonSmc smc{sensors};
+    ThermalZones thermal{sensors};
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -80,7 +92,8 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler, b.defaults, b.folders, b.log, b.screens, b.pointer, b.unixSignals, b.appearance};
+    return {b.scheduler,  b.defaults,   b.folders, b.log,     b.screens, b.pointer, b.unixSignals,
+            b.appearance, b.statistics, b.power,   b.machine, b.smc,     b.thermal};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "sensors/BatteryHealthReader.h"
+#include "sensors/MachineLogic.h"
+
+#include <QColor>
+
+namespace brimlight {
+
+/// `accent` from 80 percent up, orange from 60, red below.
+QColor healthTint(int percent, const QColor &accent);
+
+/// What the battery health widget shows; read each time it appears.
+class BatteryHealthFace : public brimlight::MachineLogic
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(bool hasBattery READ hasBattery NOTIFY changed)
+    Q_PROPERTY(double fraction READ fraction NOTIFY changed)
+    Q_PROPERTY(QString percent READ percent NOTIFY changed)
+    Q_PROPERTY(QString cycles READ cycles NOTIFY changed)
+    Q_PROPERTY(QColor tint READ tint NOTIFY changed)
+
+public:
+    using MachineLogic::MachineLogic;
+
+    bool hasBattery() const { return m_snapshot.has_value(); }
+    double fraction() const { return m_snapshot ? m_snapshot->healthPercent / 100.0 : 0; }
+    QString percent() const;
+    /// "312 cycles".
+    QString cycles() const;
+    QColor tint() const;
+
+protected:
+    void begin(MachinePorts &machine) override { m_snapshot = BatteryHealthReader::read(machine.power); }
+    void read(MachinePorts &) override {}
+    void appear() override;
+
+private:
+    std::optional<BatteryHealthSnapshot> m_snapshot;
+};
+
+} // namespace brimlight

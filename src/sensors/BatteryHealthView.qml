@@ -1,0 +1,86 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Sensors
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    required property MachinePorts machine
+    readonly property theme colors: context.theme.current
+    readonly property bool isLarge: context.size === "large"
+    readonly property bool isWide: context.size === "wide"
+
+    BatteryHealthFace {
+        id: health
+
+        context: root.context
+        machine: root.machine
+    }
+
+    MeterRing {
+        id: ring
+
+        visible: health.hasBattery
+        width: root.isLarge ? 92 : root.height
+        height: width
+        x: root.isWide ? 0 : (root.width - width) / 2
+        colors: root.colors
+        value: health.fraction
+        text: health.percent
+        caption: root.isLarge ? "Health" : ""
+        tint: health.tint
+        lineWidth: root.isLarge ? 8 : 5
+        textSize: root.isLarge ? 22 : 13
+    }
+    Column {
+        visible: root.isWide && health.hasBattery
+        anchors.left: ring.right
+        anchors.leftMargin: 10
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        WidgetTitle {
+            colors: root.colors
+            symbol: "cross.case.fill"
+            text: "Health"
+            tint: health.tint
+        }
+        Caption {
+            width: parent.width
+            colors: root.colors
+            text: health.cycles
+        }
+    }
+    Caption {
+        visible: root.isLarge && health.hasBattery
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 8
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        colors: root.colors
+        text: health.cycles
+    }
+    Column {
+        visible: !health.hasBattery
+        anchors.centerIn: parent
+        width: parent.width
+        spacing: 4
+
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: "cross.case"
+            size: root.isLarge ? 30 : 18
+            color: root.colors.textSecondary
+        }
+        Caption {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            colors: root.colors
+            text: "No battery"
+        }
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Sensors
+
+Column {
+    id: root
+
+    required property WidgetContext context
+    required property MachinePorts machine
+    readonly property theme colors: context.theme.current
+
+    spacing: 6
+
+    BatteryFace {
+        id: battery
+
+        context: root.context
+        machine: root.machine
+    }
+    Text {
+        text: "Battery Settings"
+        color: root.colors.textPrimary
+        font.family: Fonts.rounded
+        font.pixelSize: 12
+        font.weight: Font.Bold
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+    SegmentedPicker {
+        width: parent.width
+        colors: root.colors
+        label: "Color:"
+        labels: ["Dynamic", "Theme"]
+        values: ["dynamic", "theme"]
+        value: battery.colorMode
+        onChosen: value => root.context.setOption("colorMode", value)
+    }
+}

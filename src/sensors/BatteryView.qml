@@ -1,0 +1,110 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Sensors
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    required property MachinePorts machine
+    readonly property theme colors: context.theme.current
+    readonly property bool isLarge: context.size === "large"
+
+    BatteryFace {
+        id: battery
+
+        context: root.context
+        machine: root.machine
+    }
+
+    MeterRing {
+        id: ring
+
+        // From 1 to 0 and back while the battery charges.
+        property real pulse: 1
+
+        width: root.isLarge ? 92 : root.height
+        height: width
+        x: root.context.size === "wide" ? 0 : (root.width - width) / 2
+        colors: root.colors
+        value: battery.fraction
+        text: battery.number
+        symbol: battery.charging ? "bolt.fill" : ""
+        tint: battery.tint
+        lineWidth: root.isLarge ? 8 : 5
+        textSize: root.isLarge ? 25 : 15
+        duration: Motion.rolling.duration
+        easing: Motion.rolling.easing
+        opacity: 0.72 + 0.28 * pulse
+
+        SequentialAnimation on pulse {
+            id: pulsing
+
+            running: battery.charging && root.context.live && !Motion.reduced
+            loops: Animation.Infinite
+            onRunningChanged: {
+                if (!running)
+                    ring.pulse = 1;
+            }
+
+            NumberAnimation {
+                to: 0
+                duration: 900
+                easing.type: Easing.InOutQuad
+            }
+            NumberAnimation {
+                to: 1
+                duration: 900
+                easing.type: Easing.InOutQuad
+            }
+        }
+    }
+    Column {
+        visible: root.context.size === "wide"
+        anchors.left: ring.right
+        anchors.leftMargin: 10
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        WidgetTitle {
+            colors: root.colors
+            symbol: battery.symbol
+            text: battery.percent
+            tint: battery.tint
+        }
+        Caption {
+            width: parent.width
+            colors: root.colors
+            text: battery.detail
+        }
+        Caption {
+            width: parent.width
+            colors: root.colors
+            font.pixelSize: 9
+            text: battery.status
+        }
+    }
+    Column {
+        visible: root.isLarge
+        anchors.bottom: parent.bottom
+        width: parent.width
+        spacing: 2
+
+        WidgetTitle {
+            anchors.horizontalCenter: parent.horizontalCenter
+            colors: root.colors
+            symbol: battery.symbol
+            text: battery.detail
+            tint: battery.tint
+        }
+        Caption {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            colors: root.colors
+            text: battery.status
+        }
+    }
+}

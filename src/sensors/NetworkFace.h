@@ -1,0 +1,46 @@
+#pragma once
+
+#include "sensors/MachineLogic.h"
+#include "sensors/NetworkReader.h"
+
+namespace brimlight {
+
+/// Bytes per second: "3.4 MB/s", "12 KB/s", "999 B/s".
+QString rateText(double bytesPerSecond);
+/// The same without its unit: "3.4M", "12K", "999".
+QString compactRate(double bytesPerSecond);
+
+/// What the network widget shows. Every widget has a baseline of its own, so its first rates are zero.
+class NetworkFace : public brimlight::MachineLogic
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString down READ down NOTIFY changed)
+    Q_PROPERTY(QString up READ up NOTIFY changed)
+    Q_PROPERTY(QString compactDown READ compactDown NOTIFY changed)
+    Q_PROPERTY(QString compactUp READ compactUp NOTIFY changed)
+    Q_PROPERTY(QList<double> bars READ bars NOTIFY changed)
+
+public:
+    static constexpr qsizetype longestHistory = 24;
+
+    using MachineLogic::MachineLogic;
+
+    QString down() const { return rateText(m_snapshot.down); }
+    QString up() const { return rateText(m_snapshot.up); }
+    QString compactDown() const { return compactRate(m_snapshot.down); }
+    QString compactUp() const { return compactRate(m_snapshot.up); }
+    /// The rates of the last ticks, oldest first, from 0 to 1. What is below one byte per second stays flat.
+    QList<double> bars() const;
+
+protected:
+    void begin(MachinePorts &machine) override { m_reader.emplace(machine.statistics); }
+    void read(MachinePorts &machine) override;
+
+private:
+    std::optional<NetworkReader> m_reader;
+    NetSnapshot m_snapshot;
+    QList<double> m_history;
+};
+
+} // namespace brimlight

@@ -1,0 +1,65 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Sensors
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    required property MachinePorts machine
+    readonly property theme colors: context.theme.current
+    readonly property string size: context.size
+
+    NetworkFace {
+        id: network
+
+        context: root.context
+        machine: root.machine
+    }
+
+    WidgetTitle {
+        id: heading
+
+        visible: root.size === "large"
+        colors: root.colors
+        symbol: "network"
+        text: "Network"
+    }
+    Column {
+        id: rates
+
+        readonly property bool isSmall: root.size === "small"
+
+        y: root.size === "large" ? heading.height + 12 : (root.height - height) / 2
+        width: root.size === "banner" ? 84 : root.size === "wide" ? 74 : root.width
+        spacing: isSmall ? 6 : 5
+
+        RateLine {
+            width: parent.width
+            colors: root.colors
+            symbol: "arrow.down"
+            text: rates.isSmall ? network.compactDown : network.down
+            textSize: root.size === "large" ? 15 : 12
+        }
+        RateLine {
+            width: parent.width
+            colors: root.colors
+            symbol: "arrow.up"
+            text: rates.isSmall ? network.compactUp : network.up
+            tint: root.colors.textSecondary
+            textSize: root.size === "large" ? 15 : 12
+        }
+    }
+    RateBars {
+        visible: root.size !== "small"
+        x: root.size === "large" ? 0 : rates.width + 8
+        y: root.size === "large" ? root.height - height : (root.height - height) / 2
+        width: root.width - x
+        height: root.size === "large" ? 44 : 20
+        colors: root.colors
+        bars: network.bars
+        longest: root.size === "wide" ? 12 : 24
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "sensors/MachinePorts.h"
+#include "sensors/SystemHistoryStore.h"
+#include "sensors/TemperatureService.h"
+
+#include <QHash>
+
+namespace brimlight {
+
+/// What the widgets of the machine share, by the names under which their views ask for it.
+struct SensorStores
+{
+    explicit SensorStores(const Platform &platform)
+        : history(platform.statistics, platform.scheduler)
+        , temperature({platform.smc, platform.thermal, platform.machine, platform.power, platform.defaults,
+                       platform.log, platform.scheduler})
+        , machine(platform.statistics, platform.power, platform.machine)
+    {
+    }
+
+    QHash<QString, QObject *> named()
+    {
+        return {{QStringLiteral("machine"), &machine},
+                {QStringLiteral("systemHistory"), &history},
+                {QStringLiteral("temperature"), &temperature}};
+    }
+
+    SystemHistoryStore history;
+    TemperatureService temperature;
+    MachinePorts machine;
+};
+
+} // namespace brimlight

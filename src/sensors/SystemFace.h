@@ -1,0 +1,47 @@
+#pragma once
+
+#include "sensors/MachineLogic.h"
+#include "sensors/SystemReader.h"
+
+#include <QColor>
+
+namespace brimlight {
+
+QColor loadTint(double fraction, const QColor &accent);
+/// "RAM 5.2 / 16 GB"; `total` in bytes.
+QString ramDetail(double usedFraction, uint64_t total);
+
+/// What the processor and memory widget shows. Every widget has a baseline of its own.
+class SystemFace : public brimlight::MachineLogic
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double cpu READ cpu NOTIFY changed)
+    Q_PROPERTY(double ram READ ram NOTIFY changed)
+    Q_PROPERTY(QString cpuText READ cpuText NOTIFY changed)
+    Q_PROPERTY(QString ramText READ ramText NOTIFY changed)
+    Q_PROPERTY(QColor cpuTint READ cpuTint NOTIFY changed)
+    Q_PROPERTY(QColor ramTint READ ramTint NOTIFY changed)
+    Q_PROPERTY(QString detail READ detail NOTIFY changed)
+
+public:
+    using MachineLogic::MachineLogic;
+
+    double cpu() const { return m_snapshot.cpu; }
+    double ram() const { return m_snapshot.memUsed; }
+    QString cpuText() const;
+    QString ramText() const;
+    QColor cpuTint() const { return loadTint(cpu(), theme().accentColor()); }
+    QColor ramTint() const { return loadTint(ram(), theme().accentColor()); }
+    QString detail() const;
+
+protected:
+    void begin(MachinePorts &machine) override { m_reader.emplace(machine.statistics); }
+    void read(MachinePorts &) override { m_snapshot = m_reader->read(); }
+
+private:
+    std::optional<SystemReader> m_reader;
+    SystemSnapshot m_snapshot;
+};
+
+} // namespace brimlight

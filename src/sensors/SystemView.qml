@@ -1,0 +1,85 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Sensors
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    required property MachinePorts machine
+    readonly property theme colors: context.theme.current
+    readonly property bool isSmall: context.size === "small"
+    readonly property bool isLarge: context.size === "large"
+
+    SystemFace {
+        id: system
+
+        context: root.context
+        machine: root.machine
+    }
+
+    component Meter: MeterRing {
+        width: root.isLarge ? 66 : root.height
+        height: width
+        colors: root.colors
+        lineWidth: root.isLarge ? 6 : 5
+        textSize: root.isLarge ? 15 : 13
+    }
+
+    WidgetTitle {
+        visible: root.isLarge
+        colors: root.colors
+        symbol: "cpu"
+        text: "CPU / RAM"
+    }
+    Meter {
+        id: cpu
+
+        visible: !root.isSmall
+        x: root.isLarge ? 0 : (root.width / 2 - width) / 2
+        y: root.isLarge ? 26 : 0
+        value: system.cpu
+        text: system.cpuText
+        caption: "CPU"
+        tint: system.cpuTint
+    }
+    Meter {
+        visible: !root.isSmall
+        x: root.isLarge ? root.width - width : root.width / 2 + (root.width / 2 - width) / 2
+        y: cpu.y
+        value: system.ram
+        text: system.ramText
+        caption: "RAM"
+        tint: system.ramTint
+    }
+    // Two rings in one where there is room for one only.
+    MeterRing {
+        visible: root.isSmall
+        anchors.fill: parent
+        colors: root.colors
+        value: system.cpu
+        text: ""
+        tint: system.cpuTint
+    }
+    MeterRing {
+        visible: root.isSmall
+        anchors.fill: parent
+        anchors.margins: 8
+        colors: root.colors
+        value: system.ram
+        text: system.cpuText
+        tint: system.ramTint
+        textSize: 11
+    }
+    Caption {
+        visible: root.isLarge
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 10
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        colors: root.colors
+        text: system.detail
+    }
+}

@@ -1,0 +1,84 @@
+#include "sensors/TemperatureFace.h"
+
+#include "sensors/SignalColors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brimlight {
+
+double temperatureFraction(double celsius)
+{
+    constexpr double empty = 30;
+    constexpr double full = 100;
+    return std::clamp((celsius - empty) / (full - empty), 0.0, 1.0);
+}
+
+QColor temperatureTint(double celsius, const QColor &accent)
+{
+    constexpr double orangeFrom = 55;
+    constexpr double redFrom = 75;
+    return signalColors::byLevel(celsius, orangeFrom, redFrom, accent);
+}
+
+int displayTemperature(double celsius, bool inCelsius)
+{
+    return static_cast<int>(std::lround(inCelsius ? celsius : celsius * 9 / 5 + 32));
+}
+
+QString thermalStateText(ThermalState state)
+{
+    switch (state) {
+    case ThermalState::nominal:
+        return QStringLiteral("Nominal");
+    case ThermalState::fair:
+        return QStringLiteral("Fair");
+    case ThermalState::serious:
+        return QStringLiteral("Serious");
+    case ThermalState::critical:
+        return QStringLiteral("Critical");
+    }
+    Q_UNREACHABLE();
+}
+
+void TemperatureFace::setTemperature(TemperatureService *temperature)
+{
+    if (m_temperature)
+        disconnect(m_temperature, nullptr, this, nullptr);
+    m_temperature = temperature;
+    if (m_temperature)
+        connect(m_temperature, &TemperatureService::latestChanged, this, &TemperatureFace::changed);
+    Q_EMIT temperatureChanged();
+    Q_EMIT changed();
+}
+
+QString TemperatureFace::unit() const
+{
+    return isCelsius() ? QStringLiteral("°C") : QStringLiteral("°F");
+}
+
+void TemperatureFace::read(MachinePorts &machine)
+{
+    m_state = machine.statistics.thermalState();
+    if (m_temperature)
+        m_temperature->refresh();
+}
+
+std::optional<double> TemperatureFace::cpu() const
+{
+    const auto latest = m_temperature ? m_temperature->latest() : std::nullopt;
+    return latest ? latest->cpuMaxC : std::nullopt;
+}
+
+std::optional<double> TemperatureFace::battery() const
+{
+    const auto latest = m_temperature ? m_temperature->latest() : std::nullopt;
+    return latest ? latest->batteryC : std::nullopt;
+}
+
+QString TemperatureFace::text(std::optional<double> celsius) const
+{
+    return celsius ? QStringLiteral("%1°").arg(displayTemperature(*celsius, isCelsius())) : QString();
+}
+
+} // namespace brimlight

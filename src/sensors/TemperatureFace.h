@@ -1,0 +1,68 @@
+#pragma once
+
+#include "sensors/MachineLogic.h"
+#include "sensors/TemperatureService.h"
+
+#include <QColor>
+
+namespace brimlight {
+
+/// Empty at 30 degrees Celsius, full at 100.
+double temperatureFraction(double celsius);
+QColor temperatureTint(double celsius, const QColor &accent);
+/// A whole number in the wanted unit.
+int displayTemperature(double celsius, bool inCelsius);
+/// "Nominal", "Fair", "Serious" or "Critical".
+QString thermalStateText(ThermalState state);
+
+/// What the temperature widget shows. Every tick takes a reading; without one of the processor the machine's
+/// own word of its state stands in.
+class TemperatureFace : public brimlight::MachineLogic
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(brimlight::TemperatureService *temperature READ temperature WRITE setTemperature NOTIFY
+                   temperatureChanged REQUIRED)
+    Q_PROPERTY(bool hasCpu READ hasCpu NOTIFY changed)
+    Q_PROPERTY(double fraction READ fraction NOTIFY changed)
+    Q_PROPERTY(QString cpuText READ cpuText NOTIFY changed)
+    Q_PROPERTY(bool hasBattery READ hasBattery NOTIFY changed)
+    Q_PROPERTY(QString batteryText READ batteryText NOTIFY changed)
+    Q_PROPERTY(QString unit READ unit NOTIFY changed)
+    Q_PROPERTY(QColor tint READ tint NOTIFY changed)
+    Q_PROPERTY(QString stateText READ stateText NOTIFY changed)
+
+public:
+    using MachineLogic::MachineLogic;
+
+    TemperatureService *temperature() const { return m_temperature; }
+    void setTemperature(TemperatureService *temperature);
+
+    bool hasCpu() const { return cpu().has_value(); }
+    double fraction() const { return temperatureFraction(cpu().value_or(0)); }
+    /// "57°".
+    QString cpuText() const { return text(cpu()); }
+    bool hasBattery() const { return battery().has_value(); }
+    QString batteryText() const { return text(battery()); }
+    /// "°C" or "°F".
+    QString unit() const;
+    QColor tint() const { return temperatureTint(cpu().value_or(0), theme().accentColor()); }
+    QString stateText() const { return thermalStateText(m_state); }
+
+Q_SIGNALS:
+    void temperatureChanged();
+
+protected:
+    void begin(MachinePorts &machine) override { m_state = machine.statistics.thermalState(); }
+    void read(MachinePorts &machine) override;
+
+private:
+    std::optional<double> cpu() const;
+    std::optional<double> battery() const;
+    QString text(std::optional<double> celsius) const;
+
+    QPointer<TemperatureService> m_temperature;
+    ThermalState m_state = ThermalState::nominal;
+};
+
+} // namespace brimlight

@@ -1,0 +1,90 @@
+import QtQuick
+import Brimlight.Core
+import Brimlight.Theme
+import Brimlight.Grid
+import Brimlight.Sensors
+
+Item {
+    id: root
+
+    required property WidgetContext context
+    required property MachinePorts machine
+    required property TemperatureService temperature
+    readonly property theme colors: context.theme.current
+    readonly property bool isWide: context.size === "wide"
+
+    TemperatureFace {
+        id: face
+
+        context: root.context
+        machine: root.machine
+        temperature: root.temperature
+    }
+
+    MeterRing {
+        id: ring
+
+        visible: face.hasCpu
+        width: root.height
+        height: width
+        x: root.isWide ? 0 : (root.width - width) / 2
+        colors: root.colors
+        value: face.fraction
+        text: face.cpuText
+        tint: face.tint
+        textSize: 15
+    }
+    Column {
+        visible: root.isWide && face.hasCpu
+        anchors.left: ring.right
+        anchors.leftMargin: 10
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 3
+
+        WidgetTitle {
+            colors: root.colors
+            symbol: "cpu"
+            text: "CPU " + face.unit
+            tint: face.tint
+        }
+        Row {
+            visible: face.hasBattery
+            spacing: 5
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "battery.100"
+                size: 11
+                color: root.colors.textSecondary
+            }
+            Caption {
+                colors: root.colors
+                text: face.batteryText
+            }
+        }
+    }
+    // Stacked where it is small, side by side where it is wide.
+    Grid {
+        visible: !face.hasCpu
+        anchors.centerIn: parent
+        columns: root.isWide ? 2 : 1
+        columnSpacing: 8
+        rowSpacing: 3
+        verticalItemAlignment: Grid.AlignVCenter
+        horizontalItemAlignment: Grid.AlignHCenter
+
+        Symbol {
+            name: "thermometer.medium"
+            size: root.isWide ? 24 : 20
+            color: root.colors.accent
+        }
+        Text {
+            text: face.stateText
+            color: root.colors.textPrimary
+            font.family: Fonts.rounded
+            font.pixelSize: root.isWide ? 14 : 11
+            font.weight: Font.DemiBold
+        }
+    }
+}
