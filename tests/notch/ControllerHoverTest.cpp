@@ -209,6 +209,8 @@ TEST_F(Hover, MonitorsAndPollExistOnlyWhileExpanded)
     start();
     EXPECT_TRUE(pointer.local.empty());
     EXPECT_TRUE(pointer.global.empty());
+    // The first reading of the temperature.
+    scheduler.advance(1s);
     EXPECT_EQ(scheduler.pendingCount(), 0);
     openByHover();
     EXPECT_EQ(pointer.local.size(), 1u);
