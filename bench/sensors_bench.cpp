@@ -23,7 +23,7 @@ struct Surroundings
     }
 
     test::FakeMachine machine;
-    test::FakePower power;
+    test::FakePowerSources power;
     test::MemoryDefaults defaults;
     test::RecordingLog log;
     test::ManualScheduler scheduler;

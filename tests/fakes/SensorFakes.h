@@ -1,7 +1,7 @@
 #pragma once
 
+#include "fakes/FakePowerSources.h"
 #include "platform/MachineInfo.h"
-#include "platform/PowerSources.h"
 #include "platform/SmcTransport.h"
 #include "platform/ThermalServices.h"
 
@@ -136,19 +136,6 @@ public:
     bool canList = true;
     int matched = 0;
     std::vector<Service> services;
-};
-
-class FakePower : public PowerSources
-{
-public:
-    std::optional<PowerSourceDescription> first() override { return description; }
-    std::optional<SmartBattery> smartBattery() override { return battery; }
-
-    /// Hundredths of a degree.
-    void setTemperature(double hundredths) { battery = SmartBattery{.temperature = hundredths}; }
-
-    std::optional<PowerSourceDescription> description;
-    std::optional<SmartBattery> battery;
 };
 
 class FakeMachine : public MachineInfo

@@ -56,7 +56,7 @@ std::optional<TemperatureReading> readingOf(const Machine &machine)
     BoundedRead reader(ample);
     HwmonSmc smc(reader, machine.sys());
     FakeMachine info;
-    FakePower power;
+    FakePowerSources power;
     MemoryDefaults defaults;
     RecordingLog log;
     ManualScheduler scheduler;
@@ -339,7 +339,7 @@ TEST(HwmonSmc, ListingTheKeysDoesNotReadOtherPartsSensors)
     BoundedRead reader(ample);
     HwmonSmc smc(reader, machine.sys());
     FakeMachine info;
-    FakePower power;
+    FakePowerSources power;
     MemoryDefaults defaults;
     RecordingLog log;
     ManualScheduler scheduler;
@@ -371,7 +371,7 @@ TEST(HwmonSmc, TheBatteryIsTheSystemsOwn)
 TEST(HwmonSmc, CalibrationIsSkippedAtTheNextBootEvenWithOtherNumbers)
 {
     FakeMachine info;
-    FakePower power;
+    FakePowerSources power;
     MemoryDefaults defaults;
     RecordingLog log;
     ManualScheduler scheduler;

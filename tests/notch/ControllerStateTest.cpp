@@ -274,4 +274,29 @@ TEST_F(State, GoneControllerIsNotReachedByPostedWork)
     SUCCEED() << "no crash";
 }
 
+TEST_F(State, TheLoadIsSampledWhileThePanelIsOpen)
+{
+    start();
+    EXPECT_FALSE(controller->sensors().history.isActive());
+    controller->setExpanded(true);
+    EXPECT_TRUE(controller->sensors().history.isActive());
+    controller->setExpanded(false);
+    EXPECT_FALSE(controller->sensors().history.isActive());
+}
+
+TEST_F(State, AUsageGraphOnAnyPageIsSampledWhileThePanelIsClosedToo)
+{
+    start();
+    controller->grid()->addPage();
+    controller->grid()->add(QStringLiteral("usagegraph"), 1);
+    scheduler.runPosted();
+    EXPECT_TRUE(controller->sensors().history.isActive());
+    controller->setExpanded(true);
+    controller->setExpanded(false);
+    EXPECT_TRUE(controller->sensors().history.isActive());
+    controller->grid()->remove(controller->grid()->layout().instances.last().id);
+    scheduler.runPosted();
+    EXPECT_FALSE(controller->sensors().history.isActive());
+}
+
 } // namespace brimlight::test

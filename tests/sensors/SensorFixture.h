@@ -43,7 +43,7 @@ protected:
 
     FakeSmc smc;
     FakeMachine machine;
-    FakePower power;
+    FakePowerSources power;
     MemoryDefaults defaults;
     RecordingLog log;
     SettableScheduler scheduler;

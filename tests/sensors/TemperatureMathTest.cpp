@@ -21,7 +21,7 @@ const QByteArray fortyTwoAndAHalf = QByteArray::fromHex("00002a42");
 
 std::optional<double> batteryOf(double raw)
 {
-    FakePower power;
+    FakePowerSources power;
     power.setTemperature(raw);
     return readFromSmartBattery(power);
 }
@@ -119,7 +119,7 @@ TEST(BatteryTemperatureReader, RefusesWhatNoBatteryHas)
     EXPECT_TRUE(batteryOf(7999));
     EXPECT_FALSE(batteryOf(-1000));
     EXPECT_TRUE(batteryOf(-999));
-    FakePower power;
+    FakePowerSources power;
     EXPECT_FALSE(readFromSmartBattery(power)) << "no battery";
     power.battery = SmartBattery{.cycleCount = 3};
     EXPECT_FALSE(readFromSmartBattery(power)) << "one that does not tell";

@@ -35,7 +35,7 @@ protected:
     FakeSmc smc;
     FakeThermal thermal;
     FakeMachine machine;
-    FakePower power;
+    FakePowerSources power;
     MemoryDefaults defaults;
     RecordingLog log;
     ManualScheduler scheduler;

@@ -21,7 +21,7 @@ protected:
     }
 
     FakeThermal thermal;
-    FakePower power;
+    FakePowerSources power;
     RecordingLog log;
     ManualScheduler scheduler;
 };
