@@ -287,14 +287,17 @@ TEST_F(State, TheLoadIsSampledWhileThePanelIsOpen)
 TEST_F(State, AUsageGraphOnAnyPageIsSampledWhileThePanelIsClosedToo)
 {
     start();
-    controller->grid()->addPage();
-    controller->grid()->add(QStringLiteral("usagegraph"), 1);
+    const GridLayout without = controller->grid()->layout();
+    GridLayout with = without;
+    with.pageCount = 2;
+    with.instances.append({.kind = QStringLiteral("usagegraph"), .size = WidgetSize::large, .page = 1});
+    controller->grid()->setLayout(with);
     scheduler.runPosted();
     EXPECT_TRUE(controller->sensors().history.isActive());
     controller->setExpanded(true);
     controller->setExpanded(false);
     EXPECT_TRUE(controller->sensors().history.isActive());
-    controller->grid()->remove(controller->grid()->layout().instances.last().id);
+    controller->grid()->setLayout(without);
     scheduler.runPosted();
     EXPECT_FALSE(controller->sensors().history.isActive());
 }
