@@ -39,9 +39,7 @@ Item {
         easing: Motion.rolling.easing
         opacity: 0.72 + 0.28 * pulse
 
-        SequentialAnimation on pulse {
-            id: pulsing
-
+        SequentialAnimation {
             running: battery.charging && root.context.live && !Motion.reduced
             loops: Animation.Infinite
             onRunningChanged: {
@@ -50,11 +48,15 @@ Item {
             }
 
             NumberAnimation {
+                target: ring
+                property: "pulse"
                 to: 0
                 duration: 900
                 easing.type: Easing.InOutQuad
             }
             NumberAnimation {
+                target: ring
+                property: "pulse"
                 to: 1
                 duration: 900
                 easing.type: Easing.InOutQuad
