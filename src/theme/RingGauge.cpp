@@ -79,6 +79,8 @@ RingGauge::RingGauge(QQuickItem *parent)
 
 void RingGauge::setValue(double value)
 {
+    if (value == m_value)
+        return;
     m_value = value;
     const double goal = ringProgress(value);
     if (animates())
@@ -90,6 +92,8 @@ void RingGauge::setValue(double value)
 
 void RingGauge::setLineWidth(double width)
 {
+    if (width == m_lineWidth)
+        return;
     m_lineWidth = width;
     m_glowRing = m_glowCap = {};
     Q_EMIT lineWidthChanged();
@@ -98,6 +102,8 @@ void RingGauge::setLineWidth(double width)
 
 void RingGauge::setTint(const QColor &tint)
 {
+    if (tint == m_tint)
+        return;
     m_tint = tint;
     m_glowRing = m_glowCap = {};
     Q_EMIT tintChanged();
@@ -106,6 +112,8 @@ void RingGauge::setTint(const QColor &tint)
 
 void RingGauge::setTrack(const QColor &track)
 {
+    if (track == m_track)
+        return;
     m_track = track;
     Q_EMIT trackChanged();
     redraw();

@@ -82,6 +82,8 @@ Sparkline::Sparkline(QQuickItem *parent)
 
 void Sparkline::setValues(const QList<double> &values)
 {
+    if (values == m_values)
+        return;
     if (animates() && m_values.size() > 1 && values.size() > 1) {
         m_before = shown();
         m_values = values;
@@ -96,6 +98,8 @@ void Sparkline::setValues(const QList<double> &values)
 
 void Sparkline::setColor(const QColor &color)
 {
+    if (color == m_color)
+        return;
     m_color = color;
     Q_EMIT colorChanged();
     redraw();
