@@ -29,6 +29,8 @@ struct Fare
     /// 0 to 1, at the end of each period.
     double load = 0.3;
     double memory = 0.5;
+    /// Kibibytes.
+    uint64_t memoryTotal = 16'184'328;
     /// Bytes per second at the most.
     double down = 5e6;
     double up = 4e5;
@@ -42,8 +44,8 @@ struct Fare
 class RecordedMachine
 {
 public:
-    /// As long as the history of the usage graph.
-    static constexpr int period = 120;
+    /// In seconds; half of what the usage graph shows.
+    static constexpr int period = 60;
 
     explicit RecordedMachine(const Fare &fare)
         : m_fare(fare)
@@ -99,13 +101,13 @@ private:
     double wave(double turns) const { return std::sin(2 * std::numbers::pi * turns * m_second / period); }
     double load() const
     {
-        return std::clamp(m_fare.load + 0.16 * wave(3) + 0.09 * wave(11) + 0.05 * wave(29), 0.02, 1.0);
+        return std::clamp(m_fare.load + 0.16 * wave(2) + 0.09 * wave(5) + 0.05 * wave(13), 0.02, 1.0);
     }
-    double memory() const { return std::clamp(m_fare.memory + 0.05 * wave(1) + 0.015 * wave(7), 0.02, 1.0); }
+    double memory() const { return std::clamp(m_fare.memory + 0.05 * wave(1) + 0.015 * wave(4), 0.02, 1.0); }
     /// 0 to 1, in bursts.
     double traffic(double phase) const
     {
-        return std::pow(0.5 + 0.3 * std::sin(phase + std::asin(wave(5))) + 0.2 * wave(17), 2);
+        return std::pow(0.5 + 0.3 * std::sin(phase + std::asin(wave(3))) + 0.2 * wave(8), 2);
     }
 
     void writeCounters()
@@ -114,10 +116,10 @@ private:
         m_machine.write(QStringLiteral("proc/stat"),
                         "cpu  " + QByteArray::number(100'000 + qulonglong(m_busy)) + " 0 0 " +
                             QByteArray::number(900'000 + qulonglong(idle)) + " 0 0 0 0 0 0\n");
-        constexpr uint64_t total = 16'384'000;
-        m_machine.write(QStringLiteral("proc/meminfo"),
-                        "MemTotal: " + QByteArray::number(qulonglong(total)) + " kB\nMemAvailable: " +
-                            QByteArray::number(qulonglong(total * (1 - memory()))) + " kB\n");
+        m_machine.write(
+            QStringLiteral("proc/meminfo"),
+            "MemTotal: " + QByteArray::number(qulonglong(m_fare.memoryTotal)) + " kB\nMemAvailable: " +
+                QByteArray::number(qulonglong(double(m_fare.memoryTotal) * (1 - memory()))) + " kB\n");
         m_statistics.links = {{.name = QStringLiteral("wlan0"), .received = m_received, .sent = m_sent}};
     }
 

@@ -9,10 +9,14 @@
 #include "theme/Fonts.h"
 
 #include <QGuiApplication>
+#include <QHash>
 #include <QImageWriter>
 #include <QPainter>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <span>
 
 namespace brimlight::bench {
 namespace {
@@ -52,6 +56,7 @@ std::vector<State> states()
              {.kind = test::MachineKind::laptopAmd,
               .load = 0.93,
               .memory = 0.87,
+              .memoryTotal = 32'257'400,
               .down = 118e6,
               .up = 92e6,
               .volume = {.total = 2'000'000'000'000, .available = 99'960'000'000},
@@ -67,6 +72,7 @@ std::vector<State> states()
              {.kind = test::MachineKind::boardArm,
               .load = 0.12,
               .memory = 0.24,
+              .memoryTotal = 3'885'396,
               .down = 900,
               .up = 120,
               .volume = {.total = 64'000'000'000, .available = 10'200'000'000},
@@ -75,6 +81,7 @@ std::vector<State> states()
              {.kind = test::MachineKind::virtualMachine,
               .load = 0.74,
               .memory = 0.41,
+              .memoryTotal = 2'014'032,
               .down = 52e3,
               .up = 9e3,
               .volume = {.total = 20'000'000'000, .available = 12'000'000'000},
@@ -122,14 +129,74 @@ void drawLabel(QPainter &painter, QPointF at, const QString &text, int pixels, c
     painter.drawText(at, text);
 }
 
-/// The last bits of the gradients, which nobody sees, are most of the file.
-void coarsen(QImage &image)
+using Colors = std::span<QRgb>;
+
+int channel(QRgb color, int n)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            line[x] &= 0xfffcfcfc;
+    return static_cast<int>(color >> (8 * n) & 0xff);
+}
+
+/// The channel in which the colours differ most, and by how much.
+std::pair<int, int> widestChannel(Colors colors)
+{
+    std::pair<int, int> widest;
+    for (int n = 0; n < 3; ++n) {
+        const auto [low, high] = std::ranges::minmax(colors, {}, [n](QRgb c) { return channel(c, n); });
+        if (const int range = channel(high, n) - channel(low, n); range > widest.second)
+            widest = {n, range};
     }
+    return widest;
+}
+
+QRgb mean(Colors colors)
+{
+    std::array<int, 3> sum{};
+    for (const QRgb color : colors) {
+        for (int n = 0; n < 3; ++n)
+            sum.at(n) += channel(color, n);
+    }
+    const auto count = static_cast<int>(colors.size());
+    return qRgb(sum[2] / count, sum[1] / count, sum[0] / count);
+}
+
+/// In few colours, so that the file is small: the set of colours is halved where it is widest, again and
+/// again.
+QImage reduced(const QImage &image)
+{
+    constexpr size_t few = 128;
+    constexpr QRgb noticeable = 0xfffcfcfc;
+    QHash<QRgb, int> indices;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            indices[line[x] & noticeable] = 0;
+    }
+    QList<QRgb> all = indices.keys();
+    std::vector<Colors> boxes{all};
+    while (boxes.size() < std::min(few, static_cast<size_t>(all.size()))) {
+        Colors &box = *std::ranges::max_element(boxes, {}, [](Colors c) { return widestChannel(c).second; });
+        const int widest = widestChannel(box).first;
+        const size_t half = box.size() / 2;
+        std::ranges::nth_element(box, box.begin() + half, {},
+                                 [widest](QRgb c) { return channel(c, widest); });
+        const Colors rest = box.subspan(half);
+        box = box.first(half);
+        boxes.push_back(rest);
+    }
+    QList<QRgb> table;
+    for (const Colors box : boxes) {
+        for (const QRgb color : box)
+            indices[color] = static_cast<int>(table.size());
+        table.append(mean(box));
+    }
+    QImage result(image.size(), QImage::Format_Indexed8);
+    result.setColorTable(table);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            result.scanLine(y)[x] = static_cast<uchar>(indices.value(line[x] & noticeable));
+    }
+    return result;
 }
 
 /// One column of the sheet.
@@ -177,10 +244,9 @@ bool draw(const QString &file)
         left += columnWidth;
     }
     painter.end();
-    coarsen(sheet);
     QImageWriter writer(file, "png");
     writer.setCompression(100);
-    return writer.write(sheet);
+    return writer.write(reduced(sheet));
 }
 
 } // namespace

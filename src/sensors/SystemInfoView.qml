@@ -24,12 +24,14 @@ Item {
         id: heading
 
         visible: root.size === "huge"
+        x: 4
+        y: 3
         colors: root.colors
         symbol: "macbook"
         text: "System Info"
     }
     Item {
-        y: heading.visible ? heading.height + 14 : 0
+        y: heading.visible ? heading.y + heading.height + 8 : 0
         width: parent.width
         height: parent.height - y
 
@@ -49,10 +51,16 @@ Item {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label + " " + value
 
+                Rectangle {
+                    visible: heading.visible
+                    width: parent.width
+                    height: 1
+                    color: root.colors.separator
+                }
                 Text {
                     id: label
 
-                    y: root.isStacked ? (parent.height - height - value.height) / 2 : (parent.height - height) / 2
+                    y: root.isStacked ? 0 : (parent.height - height) / 2
                     text: entry.label
                     color: root.colors.textSecondary
                     font.family: Fonts.rounded
@@ -63,13 +71,18 @@ Item {
                     id: value
 
                     x: root.isStacked ? 0 : label.width + 8
-                    y: root.isStacked ? label.y + label.height : (parent.height - height) / 2
+                    y: root.isStacked ? label.height + 1 : 0
                     width: parent.width - x
+                    height: parent.height - y
                     horizontalAlignment: root.isStacked ? Text.AlignLeft : Text.AlignRight
+                    verticalAlignment: root.isStacked ? Text.AlignTop : Text.AlignVCenter
                     text: entry.value
                     color: root.colors.textPrimary
                     elide: Text.ElideRight
-                    fontSizeMode: Text.HorizontalFit
+                    // The chip's name is long.
+                    wrapMode: root.isStacked ? Text.WordWrap : Text.NoWrap
+                    maximumLineCount: root.isStacked ? 2 : 1
+                    fontSizeMode: root.isStacked ? Text.Fit : Text.HorizontalFit
                     minimumPixelSize: 8
                     font.family: Fonts.rounded
                     font.pixelSize: root.size === "huge" ? 14 : root.size === "large" ? 12 : 10

@@ -18,6 +18,8 @@ constexpr double glowOpacity = 0.4;
 constexpr double glowRadius = 2.5;
 /// Beyond this the glow is below what eight bits can tell.
 constexpr double glowReach = 2.4 * glowRadius;
+/// In points along the ring.
+constexpr double unseenMove = 0.25;
 
 QColor faded(QColor color, double opacity)
 {
@@ -71,7 +73,7 @@ double ringOpacity(double turn)
 RingGauge::RingGauge(QQuickItem *parent)
     : GaugeItem(parent)
     , m_progress(smallestProgress, [this] {
-        redraw();
+        follow();
         Q_EMIT progressChanged();
     })
 {
@@ -149,6 +151,13 @@ void RingGauge::settle()
     m_progress.finish();
 }
 
+/// Many rings change a little at every tick, and the tail of a spring has more frames than the eye can see.
+void RingGauge::follow()
+{
+    if (std::abs(m_progress.value() - m_drawn) * circle().width() * std::numbers::pi >= unseenMove)
+        redraw();
+}
+
 QRectF RingGauge::circle() const
 {
     const double side = std::min(width(), height());
@@ -164,6 +173,7 @@ void RingGauge::draw(QPainter &painter, double devicePixelRatio)
 {
     if (circle().isEmpty() || m_lineWidth <= 0)
         return;
+    m_drawn = m_progress.value();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(m_track, m_lineWidth));
     painter.drawEllipse(circle());

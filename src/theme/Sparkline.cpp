@@ -84,7 +84,7 @@ void Sparkline::setValues(const QList<double> &values)
 {
     if (values == m_values)
         return;
-    if (animates() && m_values.size() > 1 && values.size() > 1) {
+    if (animates() && m_values.size() > 1 && values.size() > 1 && isMove(shown(), values)) {
         m_before = shown();
         m_values = values;
         m_change.jumpTo(0);
@@ -141,6 +141,14 @@ void Sparkline::settle()
 {
     m_change.finish();
     m_reveal.finish();
+}
+
+bool Sparkline::isMove(const QList<double> &from, const QList<double> &to) const
+{
+    constexpr double unseen = 0.5;
+    const QList<double> start = sparklineBetween(from, to, 0);
+    return !std::ranges::equal(start, to,
+                               [this](double a, double b) { return std::abs(a - b) * height() < unseen; });
 }
 
 QList<double> Sparkline::shown() const

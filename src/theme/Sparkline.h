@@ -53,6 +53,8 @@ protected:
 
 private:
     QList<double> shown() const;
+    /// Whether one could see the way between the two.
+    bool isMove(const QList<double> &from, const QList<double> &to) const;
 
     QList<double> m_values;
     QList<double> m_before;
