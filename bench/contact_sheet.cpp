@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdio>
 #include <span>
 
@@ -169,12 +170,16 @@ QImage reduced(const QImage &image)
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x)
-            indices[line[x] & noticeable] = 0;
+            ++indices[line[x] & noticeable];
     }
-    QList<QRgb> all = indices.keys();
+    // What covers more counts more, but not so much that the few pixels of a bright line go down.
+    QList<QRgb> all;
+    for (const auto [color, count] : indices.asKeyValueRange())
+        all.append(QList<QRgb>(std::bit_width(static_cast<unsigned>(count)), color));
     std::vector<Colors> boxes{all};
     while (boxes.size() < std::min(few, static_cast<size_t>(all.size()))) {
-        Colors &box = *std::ranges::max_element(boxes, {}, [](Colors c) { return widestChannel(c).second; });
+        Colors &box = *std::ranges::max_element(
+            boxes, {}, [](Colors c) { return widestChannel(c).second * static_cast<double>(c.size()); });
         const int widest = widestChannel(box).first;
         const size_t half = box.size() / 2;
         std::ranges::nth_element(box, box.begin() + half, {},

@@ -19,7 +19,7 @@ constexpr double glowRadius = 2.5;
 /// Beyond this the glow is below what eight bits can tell.
 constexpr double glowReach = 2.4 * glowRadius;
 /// In points along the ring.
-constexpr double unseenMove = 0.25;
+constexpr double unseenMove = 0.5;
 
 QColor faded(QColor color, double opacity)
 {

@@ -13,6 +13,8 @@ namespace {
 constexpr double lineWidth = 1.5;
 constexpr double topOpacity = 0.35;
 constexpr double bottomOpacity = 0.02;
+/// In points.
+constexpr double unseenMove = 0.5;
 
 QColor faded(QColor color, double opacity)
 {
@@ -75,7 +77,7 @@ QList<double> sparklineBetween(const QList<double> &from, const QList<double> &t
 
 Sparkline::Sparkline(QQuickItem *parent)
     : GaugeItem(parent)
-    , m_change(1, [this] { redraw(); })
+    , m_change(1, [this] { follow(); })
     , m_reveal(0, [this] { redraw(); })
 {
 }
@@ -84,8 +86,9 @@ void Sparkline::setValues(const QList<double> &values)
 {
     if (values == m_values)
         return;
-    if (animates() && m_values.size() > 1 && values.size() > 1 && isMove(shown(), values)) {
+    if (animates() && m_values.size() > 1 && values.size() > 1 && longestWay(shown(), values) >= unseenMove) {
         m_before = shown();
+        m_way = longestWay(m_before, values);
         m_values = values;
         m_change.jumpTo(0);
         m_change.moveTo(1, GaugeMotion::samplesChange());
@@ -112,6 +115,7 @@ double Sparkline::overhang() const
 
 void Sparkline::draw(QPainter &painter, double /*devicePixelRatio*/)
 {
+    m_drawn = m_change.value();
     const QPolygonF points = sparklinePoints(shown(), size());
     if (points.size() < 2)
         return;
@@ -143,12 +147,19 @@ void Sparkline::settle()
     m_reveal.finish();
 }
 
-bool Sparkline::isMove(const QList<double> &from, const QList<double> &to) const
+void Sparkline::follow()
 {
-    constexpr double unseen = 0.5;
+    if (!m_change.isRunning() || std::abs(m_change.value() - m_drawn) * m_way >= unseenMove)
+        redraw();
+}
+
+double Sparkline::longestWay(const QList<double> &from, const QList<double> &to) const
+{
     const QList<double> start = sparklineBetween(from, to, 0);
-    return !std::ranges::equal(start, to,
-                               [this](double a, double b) { return std::abs(a - b) * height() < unseen; });
+    double longest = 0;
+    for (qsizetype i = 0; i < to.size(); ++i)
+        longest = std::max(longest, std::abs(to[i] - start[i]) * height());
+    return longest;
 }
 
 QList<double> Sparkline::shown() const
