@@ -44,6 +44,8 @@ Item {
                 required property int index
                 readonly property string label: info.labels[index]
                 readonly property string value: info.values[index] ?? ""
+                // The chip's name is long.
+                readonly property bool wraps: root.isStacked && index === info.labels.length - 1
 
                 width: parent.width
                 height: parent.height / info.labels.length
@@ -79,10 +81,9 @@ Item {
                     text: entry.value
                     color: root.colors.textPrimary
                     elide: Text.ElideRight
-                    // The chip's name is long.
-                    wrapMode: root.isStacked ? Text.WordWrap : Text.NoWrap
-                    maximumLineCount: root.isStacked ? 2 : 1
-                    fontSizeMode: root.isStacked ? Text.Fit : Text.HorizontalFit
+                    wrapMode: entry.wraps ? Text.WordWrap : Text.NoWrap
+                    maximumLineCount: entry.wraps ? 2 : 1
+                    fontSizeMode: entry.wraps ? Text.Fit : Text.HorizontalFit
                     minimumPixelSize: 8
                     font.family: Fonts.rounded
                     font.pixelSize: root.size === "huge" ? 14 : root.size === "large" ? 12 : 10

@@ -19,7 +19,8 @@ constexpr double glowRadius = 2.5;
 /// Beyond this the glow is below what eight bits can tell.
 constexpr double glowReach = 2.4 * glowRadius;
 /// In points along the ring.
-constexpr double unseenMove = 0.5;
+constexpr double unseenMove = 1;
+constexpr double unseenRest = 0.25;
 
 QColor faded(QColor color, double opacity)
 {
@@ -154,7 +155,8 @@ void RingGauge::settle()
 /// Many rings change a little at every tick, and the tail of a spring has more frames than the eye can see.
 void RingGauge::follow()
 {
-    if (std::abs(m_progress.value() - m_drawn) * circle().width() * std::numbers::pi >= unseenMove)
+    const double move = std::abs(m_progress.value() - m_drawn) * circle().width() * std::numbers::pi;
+    if (move >= (m_progress.isRunning() ? unseenMove : unseenRest))
         redraw();
 }
 
