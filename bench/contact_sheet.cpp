@@ -176,6 +176,8 @@ QImage reduced(const QImage &image)
     QList<QRgb> all;
     for (const auto [color, count] : indices.asKeyValueRange())
         all.append(QList<QRgb>(std::bit_width(static_cast<unsigned>(count)), color));
+    // The order of a hash differs from run to run.
+    std::ranges::sort(all);
     std::vector<Colors> boxes{all};
     while (boxes.size() < std::min(few, static_cast<size_t>(all.size()))) {
         Colors &box = *std::ranges::max_element(
