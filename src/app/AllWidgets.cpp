@@ -47,6 +47,9 @@
 #include "widgets/WorldClockWidget.h"
 
 // Static libraries: naming the registrations keeps the linker from dropping them.
+void qml_register_types_Brimlight_Core();
+void qml_register_types_Brimlight_Theme();
+void qml_register_types_Brimlight_Grid();
 void qml_register_types_Brimlight_Sensors();
 void qml_register_types_Brimlight_Widgets();
 
@@ -54,8 +57,10 @@ namespace brimlight {
 namespace {
 
 using Registration = void (*)();
-[[gnu::used]] const Registration registrations[] = {&qml_register_types_Brimlight_Sensors,
-                                                    &qml_register_types_Brimlight_Widgets};
+[[gnu::used]] const Registration registrations[] = {
+    &qml_register_types_Brimlight_Core, &qml_register_types_Brimlight_Theme,
+    &qml_register_types_Brimlight_Grid, &qml_register_types_Brimlight_Sensors,
+    &qml_register_types_Brimlight_Widgets};
 
 } // namespace
 

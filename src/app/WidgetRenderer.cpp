@@ -8,28 +8,26 @@
 #include <QQuickRenderTarget>
 
 namespace brimlight {
-namespace {
-
-/// Room around the tile for its shadow, in points.
-constexpr double margin = 12;
-
-} // namespace
 
 WidgetRenderer::WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme)
     : m_catalog(catalog)
     , m_theme(theme)
 {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    m_window.setColor(QColor::fromRgbF(0.04F, 0.06F, 0.11F));
+    m_window.setColor(background);
     m_motion.installOn(m_engine);
 }
 
 WidgetRenderer::~WidgetRenderer() = default;
 
-QImage WidgetRenderer::render(const QString &kind, WidgetSize size)
+QSizeF WidgetRenderer::pictureSize(WidgetSize size)
 {
-    const QSizeF tile = gridMetrics::rectangle(size);
-    const QSizeF whole(tile.width() + 2 * margin, tile.height() + 2 * margin);
+    return gridMetrics::rectangle(size) + QSizeF(2 * margin, 2 * margin);
+}
+
+QImage WidgetRenderer::render(const QString &kind, WidgetSize size, const std::function<void()> &live)
+{
+    const QSizeF whole = pictureSize(size);
     QQmlComponent &component =
         m_catalog.component(m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Grid/RenderedTile.qml")));
     const std::unique_ptr<QObject> made(
@@ -42,7 +40,7 @@ QImage WidgetRenderer::render(const QString &kind, WidgetSize size)
         qWarning("%s", qPrintable(component.errorString()));
         return {};
     }
-    item->setSize(tile);
+    item->setSize(gridMetrics::rectangle(size));
     item->setPosition({margin, margin});
     item->setParentItem(m_window.contentItem());
     m_window.setGeometry(0, 0, static_cast<int>(whole.width()), static_cast<int>(whole.height()));
@@ -54,6 +52,7 @@ QImage WidgetRenderer::render(const QString &kind, WidgetSize size)
     QQuickRenderTarget target = QQuickRenderTarget::fromPaintDevice(&image);
     target.setDevicePixelRatio(scale);
     m_window.setRenderTarget(target);
+    live();
     // Zero-length animations and posted work end within a turn.
     QCoreApplication::processEvents();
     m_control.polishItems();

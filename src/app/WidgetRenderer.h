@@ -10,6 +10,8 @@
 #include <QQuickRenderControl>
 #include <QQuickWindow>
 
+#include <functional>
+
 namespace brimlight {
 
 /// Draws single widgets, as grid tiles, into images. Nothing moves in them: animations are at their end.
@@ -17,12 +19,18 @@ class WidgetRenderer
 {
 public:
     static constexpr double scale = 2;
+    /// Room around the tile for its shadow, in points.
+    static constexpr double margin = 12;
+    static constexpr QColor background{10, 15, 28};
 
     WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme);
     ~WidgetRenderer();
 
-    /// Null when the view cannot be drawn.
-    QImage render(const QString &kind, WidgetSize size);
+    /// The tile with its margins, in points.
+    static QSizeF pictureSize(WidgetSize size);
+    /// Null when the view cannot be drawn. `live` runs between the view's appearance and its drawing.
+    QImage render(
+        const QString &kind, WidgetSize size, const std::function<void()> &live = [] {});
 
 private:
     /// Pictures stand still.

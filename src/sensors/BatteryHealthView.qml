@@ -27,6 +27,7 @@ Item {
         width: root.isLarge ? 92 : root.height
         height: width
         x: root.isWide ? 0 : (root.width - width) / 2
+        y: root.isLarge ? 6 : 0
         colors: root.colors
         value: health.fraction
         text: health.percent
@@ -58,27 +59,29 @@ Item {
     Caption {
         visible: root.isLarge && health.hasBattery
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 8
+        anchors.bottomMargin: 12
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         colors: root.colors
         text: health.cycles
     }
-    Column {
+    // Stacked, or side by side where it is wide.
+    Grid {
         visible: !health.hasBattery
         anchors.centerIn: parent
-        width: parent.width
-        spacing: 4
+        columns: root.isWide ? 2 : 1
+        columnSpacing: 8
+        rowSpacing: 4
+        verticalItemAlignment: Grid.AlignVCenter
+        horizontalItemAlignment: Grid.AlignHCenter
 
         Symbol {
-            anchors.horizontalCenter: parent.horizontalCenter
             name: "cross.case"
             size: root.isLarge ? 30 : 18
             color: root.colors.textSecondary
         }
         Caption {
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
+            width: Math.min(implicitWidth, root.width)
             colors: root.colors
             text: "No battery"
         }

@@ -28,6 +28,7 @@ Item {
         width: root.isLarge ? 92 : root.height
         height: width
         x: root.context.size === "wide" ? 0 : (root.width - width) / 2
+        y: root.isLarge ? 4 : 0
         colors: root.colors
         value: battery.fraction
         text: battery.number
@@ -92,6 +93,7 @@ Item {
     Column {
         visible: root.isLarge
         anchors.bottom: parent.bottom
+        anchors.bottomMargin: 3
         width: parent.width
         spacing: 2
 

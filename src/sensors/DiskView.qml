@@ -22,6 +22,8 @@ Item {
 
     WidgetTitle {
         visible: root.isLarge
+        x: 4
+        y: 3
         colors: root.colors
         symbol: "internaldrive"
         text: "Disk"
@@ -30,7 +32,8 @@ Item {
     Caption {
         visible: root.isLarge
         anchors.right: parent.right
-        y: 1
+        anchors.rightMargin: 5
+        y: 4
         colors: root.colors
         color: disk.tint
         text: disk.status
@@ -41,7 +44,7 @@ Item {
         width: root.isLarge ? 84 : root.height
         height: width
         x: root.isWide ? 0 : (root.width - width) / 2
-        y: root.isLarge ? 24 : 0
+        y: root.isLarge ? 27 : 0
         colors: root.colors
         value: disk.fraction
         text: disk.percent
@@ -72,7 +75,7 @@ Item {
     Caption {
         visible: root.isLarge
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 4
+        anchors.bottomMargin: 6
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         colors: root.colors

@@ -23,6 +23,8 @@ Item {
         id: heading
 
         visible: root.size === "large"
+        x: 4
+        y: 3
         colors: root.colors
         symbol: "network"
         text: "Network"
@@ -32,8 +34,9 @@ Item {
 
         readonly property bool isSmall: root.size === "small"
 
-        y: root.size === "large" ? heading.height + 12 : (root.height - height) / 2
-        width: root.size === "banner" ? 84 : root.size === "wide" ? 74 : root.width
+        x: root.size === "large" ? heading.x : 0
+        y: root.size === "large" ? heading.height + 17 : (root.height - height) / 2
+        width: root.size === "banner" ? 84 : root.size === "wide" ? 74 : root.width - x
         spacing: isSmall ? 6 : 5
 
         RateLine {
@@ -54,9 +57,9 @@ Item {
     }
     RateBars {
         visible: root.size !== "small"
-        x: root.size === "large" ? 0 : rates.width + 8
-        y: root.size === "large" ? root.height - height : (root.height - height) / 2
-        width: root.width - x
+        x: root.size === "large" ? heading.x : rates.width + 8
+        y: root.size === "large" ? root.height - height - 5 : (root.height - height) / 2
+        width: root.width - x - (root.size === "large" ? heading.x : 0)
         height: root.size === "large" ? 44 : 20
         colors: root.colors
         bars: network.bars

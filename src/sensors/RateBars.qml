@@ -21,7 +21,7 @@ Item {
 
             x: index * root.pitch
             width: Math.max(1.5, root.pitch - 1.5)
-            height: Math.max(2, root.height * level)
+            height: Math.max(2, Math.round(root.height * level))
             y: root.height - height
             radius: Math.min(1.5, width / 2)
             color: Qt.alpha(root.colors.accent, sample < 0 ? 0.15 : 0.45 + 0.55 * level)

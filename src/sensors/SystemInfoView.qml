@@ -24,12 +24,14 @@ Item {
         id: heading
 
         visible: root.size === "huge"
+        x: 4
+        y: 3
         colors: root.colors
         symbol: "macbook"
         text: "System Info"
     }
     Item {
-        y: heading.visible ? heading.height + 14 : 0
+        y: heading.visible ? heading.y + heading.height + 8 : 0
         width: parent.width
         height: parent.height - y
 
@@ -42,6 +44,8 @@ Item {
                 required property int index
                 readonly property string label: info.labels[index]
                 readonly property string value: info.values[index] ?? ""
+                // The chip's name is long.
+                readonly property bool wraps: root.isStacked && index === info.labels.length - 1
 
                 width: parent.width
                 height: parent.height / info.labels.length
@@ -49,10 +53,16 @@ Item {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label + " " + value
 
+                Rectangle {
+                    visible: heading.visible
+                    width: parent.width
+                    height: 1
+                    color: root.colors.separator
+                }
                 Text {
                     id: label
 
-                    y: root.isStacked ? (parent.height - height - value.height) / 2 : (parent.height - height) / 2
+                    y: root.isStacked ? 0 : (parent.height - height) / 2
                     text: entry.label
                     color: root.colors.textSecondary
                     font.family: Fonts.rounded
@@ -63,13 +73,17 @@ Item {
                     id: value
 
                     x: root.isStacked ? 0 : label.width + 8
-                    y: root.isStacked ? label.y + label.height : (parent.height - height) / 2
+                    y: root.isStacked ? label.height + 1 : 0
                     width: parent.width - x
+                    height: parent.height - y
                     horizontalAlignment: root.isStacked ? Text.AlignLeft : Text.AlignRight
+                    verticalAlignment: root.isStacked ? Text.AlignTop : Text.AlignVCenter
                     text: entry.value
                     color: root.colors.textPrimary
                     elide: Text.ElideRight
-                    fontSizeMode: Text.HorizontalFit
+                    wrapMode: entry.wraps ? Text.WordWrap : Text.NoWrap
+                    maximumLineCount: entry.wraps ? 2 : 1
+                    fontSizeMode: entry.wraps ? Text.Fit : Text.HorizontalFit
                     minimumPixelSize: 8
                     font.family: Fonts.rounded
                     font.pixelSize: root.size === "huge" ? 14 : root.size === "large" ? 12 : 10

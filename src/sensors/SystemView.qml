@@ -30,6 +30,8 @@ Item {
 
     WidgetTitle {
         visible: root.isLarge
+        x: 4
+        y: 3
         colors: root.colors
         symbol: "cpu"
         text: "CPU / RAM"
@@ -39,7 +41,7 @@ Item {
 
         visible: !root.isSmall
         x: root.isLarge ? 0 : (root.width / 2 - width) / 2
-        y: root.isLarge ? 26 : 0
+        y: root.isLarge ? 33 : 0
         value: system.cpu
         text: system.cpuText
         caption: "CPU"
@@ -62,6 +64,7 @@ Item {
         value: system.cpu
         text: ""
         tint: system.cpuTint
+        lineWidth: 4
     }
     MeterRing {
         visible: root.isSmall
@@ -71,7 +74,8 @@ Item {
         value: system.ram
         text: system.cpuText
         tint: system.ramTint
-        textSize: 11
+        lineWidth: 4
+        textSize: 10
     }
     Caption {
         visible: root.isLarge

@@ -56,7 +56,9 @@ Item {
     Item {
         id: header
 
-        width: parent.width
+        x: 3
+        y: root.isOneRow ? 0 : 2
+        width: parent.width - 2 * x
         height: root.isOneRow ? 12 : 16
 
         Legend {
@@ -80,7 +82,7 @@ Item {
 
         readonly property list<int> levels: root.isOneRow ? [0, 100] : [0, 25, 50, 75, 100]
 
-        y: header.height + (root.isOneRow ? 6 : 10)
+        y: header.y + header.height + (root.isOneRow ? 6 : 10)
         width: parent.width
         height: parent.height - y - 4
 

@@ -18,6 +18,9 @@ constexpr double glowOpacity = 0.4;
 constexpr double glowRadius = 2.5;
 /// Beyond this the glow is below what eight bits can tell.
 constexpr double glowReach = 2.4 * glowRadius;
+/// In points along the ring.
+constexpr double unseenMove = 1;
+constexpr double unseenRest = 0.25;
 
 QColor faded(QColor color, double opacity)
 {
@@ -71,7 +74,7 @@ double ringOpacity(double turn)
 RingGauge::RingGauge(QQuickItem *parent)
     : GaugeItem(parent)
     , m_progress(smallestProgress, [this] {
-        redraw();
+        follow();
         Q_EMIT progressChanged();
     })
 {
@@ -79,6 +82,8 @@ RingGauge::RingGauge(QQuickItem *parent)
 
 void RingGauge::setValue(double value)
 {
+    if (value == m_value)
+        return;
     m_value = value;
     const double goal = ringProgress(value);
     if (animates())
@@ -90,6 +95,8 @@ void RingGauge::setValue(double value)
 
 void RingGauge::setLineWidth(double width)
 {
+    if (width == m_lineWidth)
+        return;
     m_lineWidth = width;
     m_glowRing = m_glowCap = {};
     Q_EMIT lineWidthChanged();
@@ -98,6 +105,8 @@ void RingGauge::setLineWidth(double width)
 
 void RingGauge::setTint(const QColor &tint)
 {
+    if (tint == m_tint)
+        return;
     m_tint = tint;
     m_glowRing = m_glowCap = {};
     Q_EMIT tintChanged();
@@ -106,6 +115,8 @@ void RingGauge::setTint(const QColor &tint)
 
 void RingGauge::setTrack(const QColor &track)
 {
+    if (track == m_track)
+        return;
     m_track = track;
     Q_EMIT trackChanged();
     redraw();
@@ -141,6 +152,14 @@ void RingGauge::settle()
     m_progress.finish();
 }
 
+/// Many rings change a little at every tick, and the tail of a spring has more frames than the eye can see.
+void RingGauge::follow()
+{
+    const double move = std::abs(m_progress.value() - m_drawn) * circle().width() * std::numbers::pi;
+    if (move >= (m_progress.isRunning() ? unseenMove : unseenRest))
+        redraw();
+}
+
 QRectF RingGauge::circle() const
 {
     const double side = std::min(width(), height());
@@ -156,6 +175,7 @@ void RingGauge::draw(QPainter &painter, double devicePixelRatio)
 {
     if (circle().isEmpty() || m_lineWidth <= 0)
         return;
+    m_drawn = m_progress.value();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(m_track, m_lineWidth));
     painter.drawEllipse(circle());

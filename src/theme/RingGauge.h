@@ -70,6 +70,8 @@ protected:
     void settle() override;
 
 private:
+    /// Draws the arc anew once it has moved by more than what can be seen.
+    void follow();
     QRectF circle() const;
     /// The angle in degrees by which a round cap stands out of the arc's end.
     double capDegrees() const;
@@ -85,6 +87,8 @@ private:
     QColor m_track = QColor(255, 255, 255, 46);
     GaugeMotion m_motion = GaugeMotion::ringChange();
     GaugeProgress m_progress;
+    /// The progress that the picture shows.
+    double m_drawn = 0;
     /// The glow of the whole ring and of one round end; made when first needed for a size and a colour.
     QImage m_glowRing;
     QImage m_glowCap;

@@ -13,6 +13,8 @@ namespace {
 constexpr double lineWidth = 1.5;
 constexpr double topOpacity = 0.35;
 constexpr double bottomOpacity = 0.02;
+/// In points.
+constexpr double unseenMove = 1;
 
 QColor faded(QColor color, double opacity)
 {
@@ -75,15 +77,18 @@ QList<double> sparklineBetween(const QList<double> &from, const QList<double> &t
 
 Sparkline::Sparkline(QQuickItem *parent)
     : GaugeItem(parent)
-    , m_change(1, [this] { redraw(); })
+    , m_change(1, [this] { follow(); })
     , m_reveal(0, [this] { redraw(); })
 {
 }
 
 void Sparkline::setValues(const QList<double> &values)
 {
-    if (animates() && m_values.size() > 1 && values.size() > 1) {
+    if (values == m_values)
+        return;
+    if (animates() && m_values.size() > 1 && values.size() > 1 && longestWay(shown(), values) >= unseenMove) {
         m_before = shown();
+        m_way = longestWay(m_before, values);
         m_values = values;
         m_change.jumpTo(0);
         m_change.moveTo(1, GaugeMotion::samplesChange());
@@ -96,6 +101,8 @@ void Sparkline::setValues(const QList<double> &values)
 
 void Sparkline::setColor(const QColor &color)
 {
+    if (color == m_color)
+        return;
     m_color = color;
     Q_EMIT colorChanged();
     redraw();
@@ -108,6 +115,7 @@ double Sparkline::overhang() const
 
 void Sparkline::draw(QPainter &painter, double /*devicePixelRatio*/)
 {
+    m_drawn = m_change.value();
     const QPolygonF points = sparklinePoints(shown(), size());
     if (points.size() < 2)
         return;
@@ -137,6 +145,21 @@ void Sparkline::settle()
 {
     m_change.finish();
     m_reveal.finish();
+}
+
+void Sparkline::follow()
+{
+    if (!m_change.isRunning() || std::abs(m_change.value() - m_drawn) * m_way >= unseenMove)
+        redraw();
+}
+
+double Sparkline::longestWay(const QList<double> &from, const QList<double> &to) const
+{
+    const QList<double> start = sparklineBetween(from, to, 0);
+    double longest = 0;
+    for (qsizetype i = 0; i < to.size(); ++i)
+        longest = std::max(longest, std::abs(to[i] - start[i]) * height());
+    return longest;
 }
 
 QList<double> Sparkline::shown() const

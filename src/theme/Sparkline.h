@@ -53,11 +53,18 @@ protected:
 
 private:
     QList<double> shown() const;
+    /// Draws a change anew once a sample has moved by more than what can be seen.
+    void follow();
+    /// Of any sample between two histories, in points.
+    double longestWay(const QList<double> &from, const QList<double> &to) const;
 
     QList<double> m_values;
     QList<double> m_before;
     QColor m_color = Qt::white;
+    double m_way = 0;
     GaugeProgress m_change;
+    /// The progress of the change that the picture shows.
+    double m_drawn = 1;
     GaugeProgress m_reveal;
 };
 
