@@ -12,4 +12,6 @@ Text {
     font.family: Fonts.rounded
     font.pixelSize: 11
     font.weight: Font.Medium
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

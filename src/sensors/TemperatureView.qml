@@ -85,6 +85,8 @@ Item {
             font.family: Fonts.rounded
             font.pixelSize: root.isWide ? 14 : 11
             font.weight: Font.DemiBold
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

@@ -11,6 +11,8 @@ Row {
     property color tint: colors.accent
 
     spacing: 5
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter

@@ -142,6 +142,15 @@ std::optional<AccessibleObject> ScreenReader::find(const QString &role, const QS
     return std::nullopt;
 }
 
+QString ScreenReader::name(const AccessibleObject &object) const
+{
+    return ask(object.path, properties, u"Get"_s, {accessible, u"Name"_s})
+        .value(0)
+        .value<QDBusVariant>()
+        .variant()
+        .toString();
+}
+
 QString ScreenReader::focus() const
 {
     // A list has the focus together with its entry.
@@ -201,11 +210,7 @@ void ScreenReader::visit(const QString &path, std::vector<AccessibleObject> &fou
     object.path = path;
     object.role = ask(path, accessible, u"GetRoleName"_s).value(0).toString();
     object.states = states(ask(path, accessible, u"GetState"_s).value(0));
-    object.name = ask(path, properties, u"Get"_s, {accessible, u"Name"_s})
-                      .value(0)
-                      .value<QDBusVariant>()
-                      .variant()
-                      .toString();
+    object.name = name(object);
     const QStringList interfaces = ask(path, accessible, u"GetInterfaces"_s).value(0).toStringList();
     if (interfaces.contains(action))
         object.actions = actions(ask(path, action, u"GetActions"_s).value(0));

@@ -51,6 +51,8 @@ public:
     std::vector<AccessibleObject> objects() const;
     /// The visible object of this role and name.
     std::optional<AccessibleObject> find(const QString &role, const QString &name) const;
+    /// What it is called now; empty when it has gone.
+    QString name(const AccessibleObject &object) const;
     /// "push button Next" of the innermost object that has the focus; empty without one.
     QString focus() const;
     QRect frame(const AccessibleObject &object) const;
