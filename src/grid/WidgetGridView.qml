@@ -58,12 +58,6 @@ Item {
     Repeater {
         model: root.tiles
 
-        // Before a tile goes, the focus goes to what is before it.
-        onItemRemoved: (index, item) => {
-            if (item.activeFocus)
-                item.nextItemInFocusChain(false).forceActiveFocus(Qt.TabFocusReason);
-        }
-
         WidgetTile {
             id: tile
 

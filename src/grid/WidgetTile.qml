@@ -61,6 +61,11 @@ Item {
             requestMenu();
         event.accepted = opens || moved;
     }
+    // A tile that goes leaves the focus to what is before it; it keeps the mark of it when it can no longer have it.
+    onEnabledChanged: {
+        if (!enabled && focus)
+            nextItemInFocusChain(false).forceActiveFocus(Qt.TabFocusReason);
+    }
     onFlippedChanged: {
         if (!flipped && InputModality.isKeyboard)
             forceActiveFocus(Qt.TabFocusReason);
