@@ -34,6 +34,8 @@ void DesktopAppearance::listen(QDBusConnection bus)
     if (!bus.isConnected())
         return;
     m_bus = bus;
+    // Qt looks the parameters of a slot up by name, and this type has its name once it is asked for.
+    qRegisterMetaType<QDBusVariant>();
     // No sender is named: Qt would ask the bus for its owner and wait for the answer.
     bus.connect({}, portalPath(), settingsInterface(), QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
