@@ -12,6 +12,7 @@
 #include "platform/linux/SysfsPowerSources.h"
 #include "platform/linux/ThermalZones.h"
 #include "sensors/MachinePorts.h"
+#include "sensors/SharedPowerSources.h"
 #include "sensors/SystemHistoryStore.h"
 #include "sensors/TemperatureService.h"
 
@@ -137,7 +138,8 @@ private:
     ThermalZones m_zones{m_reads, m_machine.sys()};
     SystemHistoryStore m_history{m_statistics, scheduler};
     TemperatureService m_temperature{{m_smc, m_zones, m_info, m_power, defaults, log, scheduler}};
-    MachinePorts m_ports{m_statistics, m_power, m_info};
+    SharedPowerSources m_sharedPower{m_power, scheduler};
+    MachinePorts m_ports{m_statistics, m_sharedPower, m_info};
     WidgetEnvironment m_environment{registry,
                                     grid,
                                     theme,

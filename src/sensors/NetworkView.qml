@@ -62,7 +62,7 @@ Item {
         width: root.width - x - (root.size === "large" ? heading.x : 0)
         height: root.size === "large" ? 44 : 20
         colors: root.colors
-        bars: network.bars
+        bars: visible ? network.bars : []
         longest: root.size === "wide" ? 12 : 24
     }
 }

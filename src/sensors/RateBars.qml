@@ -11,7 +11,8 @@ Item {
     readonly property real pitch: width / longest
 
     Repeater {
-        model: root.longest
+        // What cannot be seen has no bars to keep.
+        model: root.visible ? root.longest : 0
 
         Rectangle {
             required property int index

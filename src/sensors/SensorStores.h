@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "sensors/MachinePorts.h"
+#include "sensors/SharedPowerSources.h"
 #include "sensors/SystemHistoryStore.h"
 #include "sensors/TemperatureService.h"
 
@@ -13,10 +14,11 @@ namespace brimlight {
 struct SensorStores
 {
     explicit SensorStores(const Platform &platform)
-        : history(platform.statistics, platform.scheduler)
-        , temperature({platform.smc, platform.thermal, platform.machine, platform.power, platform.defaults,
+        : power(platform.power, platform.scheduler)
+        , history(platform.statistics, platform.scheduler)
+        , temperature({platform.smc, platform.thermal, platform.machine, power, platform.defaults,
                        platform.log, platform.scheduler})
-        , machine(platform.statistics, platform.power, platform.machine)
+        , machine(platform.statistics, power, platform.machine)
     {
     }
 
@@ -27,6 +29,7 @@ struct SensorStores
                 {QStringLiteral("temperature"), &temperature}};
     }
 
+    SharedPowerSources power;
     SystemHistoryStore history;
     TemperatureService temperature;
     MachinePorts machine;

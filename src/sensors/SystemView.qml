@@ -36,46 +36,57 @@ Item {
         symbol: "cpu"
         text: "CPU / RAM"
     }
-    Meter {
-        id: cpu
+    Loader {
+        anchors.fill: parent
+        sourceComponent: root.isSmall ? twoInOne : sideBySide
 
-        visible: !root.isSmall
-        x: root.isLarge ? 0 : (root.width / 2 - width) / 2
-        y: root.isLarge ? 33 : 0
-        value: system.cpu
-        text: system.cpuText
-        caption: "CPU"
-        tint: system.cpuTint
-    }
-    Meter {
-        visible: !root.isSmall
-        x: root.isLarge ? root.width - width : root.width / 2 + (root.width / 2 - width) / 2
-        y: cpu.y
-        value: system.ram
-        text: system.ramText
-        caption: "RAM"
-        tint: system.ramTint
-    }
-    // Two rings in one where there is room for one only.
-    MeterRing {
-        visible: root.isSmall
-        anchors.fill: parent
-        colors: root.colors
-        value: system.cpu
-        text: ""
-        tint: system.cpuTint
-        lineWidth: 4
-    }
-    MeterRing {
-        visible: root.isSmall
-        anchors.fill: parent
-        anchors.margins: 8
-        colors: root.colors
-        value: system.ram
-        text: system.cpuText
-        tint: system.ramTint
-        lineWidth: 4
-        textSize: 10
+        // Where there is room for one only.
+        Component {
+            id: twoInOne
+
+            Item {
+                MeterRing {
+                    anchors.fill: parent
+                    colors: root.colors
+                    value: system.cpu
+                    text: ""
+                    tint: system.cpuTint
+                    lineWidth: 4
+                }
+                MeterRing {
+                    anchors.fill: parent
+                    anchors.margins: 8
+                    colors: root.colors
+                    value: system.ram
+                    text: system.cpuText
+                    tint: system.ramTint
+                    lineWidth: 4
+                    textSize: 10
+                }
+            }
+        }
+        Component {
+            id: sideBySide
+
+            Item {
+                Meter {
+                    x: root.isLarge ? 0 : (root.width / 2 - width) / 2
+                    y: root.isLarge ? 33 : 0
+                    value: system.cpu
+                    text: system.cpuText
+                    caption: "CPU"
+                    tint: system.cpuTint
+                }
+                Meter {
+                    x: root.isLarge ? root.width - width : root.width / 2 + (root.width / 2 - width) / 2
+                    y: root.isLarge ? 33 : 0
+                    value: system.ram
+                    text: system.ramText
+                    caption: "RAM"
+                    tint: system.ramTint
+                }
+            }
+        }
     }
     Caption {
         visible: root.isLarge

@@ -59,9 +59,11 @@ QString TemperatureFace::unit() const
 
 void TemperatureFace::read(MachinePorts &machine)
 {
-    m_state = machine.statistics.thermalState();
     if (m_temperature)
         m_temperature->refresh();
+    // It stands in for a temperature, and asking for it is dear: every zone and every fan has to answer.
+    if (!cpu())
+        m_state = machine.statistics.thermalState();
 }
 
 std::optional<double> TemperatureFace::cpu() const
