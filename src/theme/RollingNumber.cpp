@@ -15,6 +15,9 @@ constexpr double smallestScale = 0.7;
 /// line.
 constexpr double travel = 0.5;
 constexpr double travelBeyond = 0.3;
+/// The part of a turn that is not worth a frame: it lasts for most of the time and moves by a fraction of a
+/// point.
+constexpr double unseenTurn = 0.08;
 
 } // namespace
 
@@ -30,8 +33,9 @@ std::vector<RollingCell> rollingCells(const QString &text, const QFontMetricsF &
     double x = 0;
     while (finder.toNextBoundary() > 0) {
         const QString glyph = text.sliced(start, finder.position() - start);
-        const double width = glyph.front().isDigit() ? digitWidth : metrics.horizontalAdvance(glyph);
-        cells.push_back({glyph, x, width});
+        const double advance = metrics.horizontalAdvance(glyph);
+        const double width = glyph.front().isDigit() ? digitWidth : advance;
+        cells.push_back({glyph, x, width, advance});
         start = finder.position();
         x += width;
     }
@@ -63,7 +67,8 @@ std::vector<RollingColumn> rollingColumns(const std::vector<RollingCell> &from,
 RollingNumber::RollingNumber(QQuickItem *parent)
     : GaugeItem(parent)
     , m_roll(1, [this] {
-        redraw();
+        if (!m_roll.isRunning() || std::abs(m_roll.value() - m_drawn) >= unseenTurn)
+            redraw();
         Q_EMIT rollingChanged();
     })
 {
@@ -186,7 +191,7 @@ void RollingNumber::draw(QPainter &painter, double /*devicePixelRatio*/)
 
     const auto drawCell = [&](const RollingCell &cell, double x, double y) {
         // A narrow digit stands in the middle of its cell.
-        const double inset = (cell.width - metrics.horizontalAdvance(cell.glyph)) / 2;
+        const double inset = (cell.width - cell.advance) / 2;
         painter.drawText(QPointF(x + inset, y + metrics.ascent()), cell.glyph);
     };
     if (!m_roll.isRunning()) {
@@ -196,6 +201,7 @@ void RollingNumber::draw(QPainter &painter, double /*devicePixelRatio*/)
     }
 
     const double t = m_roll.value();
+    m_drawn = t;
     const double opacity = std::clamp(t, 0.0, 1.0);
     const double before = originOf(m_before, scale);
     for (const RollingColumn &column : rollingColumns(m_before, m_cells)) {

@@ -18,6 +18,8 @@ struct RollingCell
     QString glyph;
     double x = 0;
     double width = 0;
+    /// Of the glyph itself, which stands in the middle.
+    double advance = 0;
 };
 
 /// The characters of a text side by side; all digits are as wide as the widest of them.
@@ -115,6 +117,7 @@ private:
     int m_alignment = Qt::AlignLeft;
     GaugeMotion m_motion = GaugeMotion::roll();
     GaugeProgress m_roll;
+    double m_drawn = 0;
     std::vector<RollingCell> m_before;
     std::vector<RollingCell> m_cells;
 };
