@@ -21,6 +21,8 @@ void AppDelegate::applicationDidFinishLaunching()
     m_log.info(launchLine(QStringLiteral(BRIMLIGHT_VERSION)));
     m_window.emplace([this](QWindow &window) { return m_platform.makeSurface(window); });
     m_notch.emplace(m_platform.ports(), *m_window, m_log, m_widgets);
+    m_idleMemory.emplace(*m_notch->viewModel(), m_platform.ports().scheduler,
+                         LinuxPlatform::giveBackFreeMemory);
     m_notch->show();
     DebugSignalControls::installIfEnabled(m_flags, m_platform.ports().unixSignals, *m_notch, m_log);
 }

@@ -19,6 +19,8 @@
 
 #include <QWindow>
 
+#include <malloc.h>
+
 namespace brimlight {
 namespace {
 
@@ -103,6 +105,11 @@ std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)
         return std::make_unique<BareSurface>(window);
     return std::make_unique<X11OverlaySurface>(window, *b.x11, b.scheduler,
                                                [&b](bool over) { b.pointer.setOverSurface(over); });
+}
+
+void LinuxPlatform::giveBackFreeMemory()
+{
+    malloc_trim(0);
 }
 
 } // namespace brimlight

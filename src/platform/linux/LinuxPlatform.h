@@ -19,6 +19,8 @@ public:
     Platform ports();
     /// The overlay on this window, which must not have been shown.
     std::unique_ptr<OverlaySurface> makeSurface(QWindow &window);
+    /// Memory that the process has freed goes back to the system.
+    static void giveBackFreeMemory();
 
 private:
     struct Backends;
