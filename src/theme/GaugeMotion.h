@@ -8,11 +8,17 @@
 
 namespace brimlight {
 
-/// How long a change takes and along which curve.
+/// How long a change takes, along which curve and in which steps.
 struct GaugeMotion
 {
+    /// What moves at every tick, all day, and only by a little, is smooth enough at half the rate of the
+    /// screen.
+    static constexpr std::chrono::milliseconds calm{30};
+
     std::chrono::milliseconds duration;
     QEasingCurve easing;
+    /// At least this much between two steps.
+    std::chrono::milliseconds step{0};
 
     /// Ends where the eye sees no more of it, a hundredth from the goal: what moves at every tick must not
     /// keep the renderer busy with a tail of equal frames.
@@ -20,7 +26,7 @@ struct GaugeMotion
     {
         constexpr double unseen = 0.01;
         const Spring spring(response, dampingFraction);
-        return {spring.settlingTime(unseen), spring.easing(unseen)};
+        return {spring.settlingTime(unseen), spring.easing(unseen), calm};
     }
 
     /// A ring following its value.
@@ -28,7 +34,10 @@ struct GaugeMotion
     /// The first sweep of a ring and the first drawing of a line.
     static GaugeMotion reveal() { return {std::chrono::milliseconds(450), QEasingCurve::OutQuad}; }
     /// A line taking new samples.
-    static GaugeMotion samplesChange() { return {std::chrono::milliseconds(250), QEasingCurve::OutQuad}; }
+    static GaugeMotion samplesChange()
+    {
+        return {std::chrono::milliseconds(250), QEasingCurve::OutQuad, calm};
+    }
     /// The digits of a clock.
     static GaugeMotion roll() { return spring(std::chrono::duration<double>(0.35), 0.85); }
 };

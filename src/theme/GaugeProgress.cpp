@@ -10,8 +10,10 @@ GaugeProgress::GaugeProgress(double start, std::function<void()> changed)
 {
     QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation,
                      [this](const QVariant &value) {
-                         if (isRunning())
-                             assign(value.toDouble());
+                         if (!isRunning() || m_animation.currentTime() - m_steppedAt < m_step)
+                             return;
+                         m_steppedAt = m_animation.currentTime();
+                         assign(value.toDouble());
                      });
     QObject::connect(&m_animation, &QVariantAnimation::finished, &m_animation,
                      [this] { assign(m_animation.endValue().toDouble()); });
@@ -24,6 +26,8 @@ void GaugeProgress::moveTo(double target, const GaugeMotion &motion)
         assign(target);
         return;
     }
+    m_step = static_cast<int>(motion.step.count());
+    m_steppedAt = 0;
     m_animation.setDuration(static_cast<int>(motion.duration.count()));
     m_animation.setEasingCurve(motion.easing);
     m_animation.setStartValue(m_value);

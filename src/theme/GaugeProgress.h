@@ -29,6 +29,9 @@ private:
     std::function<void()> m_changed;
     double m_value;
     QVariantAnimation m_animation;
+    /// Milliseconds of the animation.
+    int m_step = 0;
+    int m_steppedAt = 0;
 };
 
 } // namespace brimlight

@@ -86,7 +86,7 @@ void RingGauge::setValue(double value)
         return;
     m_value = value;
     const double goal = ringProgress(value);
-    if (animates())
+    if (animates() && pointsTo(goal) >= unseenMove)
         m_progress.moveTo(goal, m_motion);
     else
         m_progress.jumpTo(goal);
@@ -155,9 +155,13 @@ void RingGauge::settle()
 /// Many rings change a little at every tick, and the tail of a spring has more frames than the eye can see.
 void RingGauge::follow()
 {
-    const double move = std::abs(m_progress.value() - m_drawn) * circle().width() * std::numbers::pi;
-    if (move >= (m_progress.isRunning() ? unseenMove : unseenRest))
+    if (pointsTo(m_drawn) >= (m_progress.isRunning() ? unseenMove : unseenRest))
         redraw();
+}
+
+double RingGauge::pointsTo(double progress) const
+{
+    return std::abs(m_progress.value() - progress) * circle().width() * std::numbers::pi;
 }
 
 QRectF RingGauge::circle() const

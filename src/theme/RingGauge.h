@@ -72,6 +72,8 @@ protected:
 private:
     /// Draws the arc anew once it has moved by more than what can be seen.
     void follow();
+    /// Along the ring from where it stands to that progress.
+    double pointsTo(double progress) const;
     QRectF circle() const;
     /// The angle in degrees by which a round cap stands out of the arc's end.
     double capDegrees() const;

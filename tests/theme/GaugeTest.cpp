@@ -173,6 +173,32 @@ TEST_F(Gauge, RingFollowsAChangeByASpring)
     EXPECT_EQ(ring.progress(), 0.6);
 }
 
+TEST_F(Gauge, RingFollowsInStepsOfTwoFrames)
+{
+    RingGauge ring;
+    ring.setValue(0.2);
+    show(ring, {60, 60});
+    m_time.advanceBy(0ms);
+    m_time.advanceBy(450ms);
+    ring.setValue(0.6);
+    m_time.advanceBy(0ms);
+    m_time.advanceBy(16ms);
+    EXPECT_EQ(ring.progress(), 0.2);
+    m_time.advanceBy(16ms);
+    EXPECT_GT(ring.progress(), 0.2);
+}
+
+TEST_F(Gauge, RingTakesAChangeBelowAPointAtOnce)
+{
+    RingGauge ring;
+    ring.setValue(0.2);
+    show(ring, {60, 60});
+    m_time.advanceBy(0ms);
+    m_time.advanceBy(450ms);
+    ring.setValue(0.204);
+    EXPECT_EQ(ring.progress(), 0.204);
+}
+
 TEST_F(Gauge, NothingMovesUnderReducedMotion)
 {
     RingGauge ring;
