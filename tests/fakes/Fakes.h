@@ -118,8 +118,8 @@ public:
 
     static void send(const Callbacks &monitors)
     {
-        const Callbacks copy = monitors;
-        for (auto *callback : copy)
+        // One that is called may end another.
+        for (auto *callback : Callbacks(monitors))
             (*callback)();
     }
 
