@@ -4,6 +4,7 @@
 #include "platform/Folders.h"
 #include "platform/HostStatistics.h"
 #include "platform/Log.h"
+#include "platform/LoginItem.h"
 #include "platform/MachineInfo.h"
 #include "platform/Pointer.h"
 #include "platform/PowerSources.h"
@@ -32,6 +33,7 @@ struct Platform
     MachineInfo &machine;
     SmcTransport &smc;
     ThermalServices &thermal;
+    LoginItem &loginItem;
 };
 
 } // namespace brimlight

@@ -181,6 +181,26 @@ public:
     std::function<void()> notify;
 };
 
+class FakeLoginItem : public LoginItem
+{
+public:
+    bool isEnabled() const override { return enabled; }
+    std::optional<QString> enable() override { return change(true); }
+    std::optional<QString> disable() override { return change(false); }
+
+    bool enabled = false;
+    /// What every change fails with.
+    std::optional<QString> error;
+
+private:
+    std::optional<QString> change(bool to)
+    {
+        if (!error)
+            enabled = to;
+        return error;
+    }
+};
+
 class FakeSurface : public OverlaySurface
 {
 public:

@@ -107,8 +107,9 @@ protected:
     FakeMachine machine;
     FakeSmc smc;
     FakeThermal thermal;
+    FakeLoginItem loginItem;
     Platform platform{scheduler,  defaults,   folders, recorded, screens, pointer, unixSignals,
-                      appearance, statistics, power,   machine,  smc,     thermal};
+                      appearance, statistics, power,   machine,  smc,     thermal, loginItem};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

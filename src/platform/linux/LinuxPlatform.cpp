@@ -15,8 +15,10 @@
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11OverlaySurface.h"
 #include "platform/linux/X11Pointer.h"
+#include "platform/linux/XdgAutostart.h"
 #include "platform/linux/XdgFolders.h"
 
+#include <QCoreApplication>
 #include <QWindow>
 
 namespace brimlight {
@@ -66,6 +68,7 @@ struct LinuxPlatform::Backends
     BoundedRead sensors;
     HwmonSmc smc{sensors};
     ThermalZones thermal{sensors};
+    XdgAutostart loginItem{folders.autostartFolder(), QCoreApplication::applicationFilePath()};
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -93,7 +96,7 @@ Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
     return {b.scheduler,  b.defaults,   b.folders, b.log,     b.screens, b.pointer, b.unixSignals,
-            b.appearance, b.statistics, b.power,   b.machine, b.smc,     b.thermal};
+            b.appearance, b.statistics, b.power,   b.machine, b.smc,     b.thermal, b.loginItem};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)
