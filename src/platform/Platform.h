@@ -11,6 +11,7 @@
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/SmcTransport.h"
+#include "platform/StatusItem.h"
 #include "platform/ThermalServices.h"
 #include "platform/UnixSignals.h"
 #include "platform/UserDefaults.h"
@@ -34,6 +35,7 @@ struct Platform
     SmcTransport &smc;
     ThermalServices &thermal;
     LoginItem &loginItem;
+    StatusItem &statusItem;
 };
 
 } // namespace brimlight

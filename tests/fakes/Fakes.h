@@ -8,6 +8,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <set>
 
 namespace brimlight::test {
 
@@ -199,6 +200,39 @@ private:
             enabled = to;
         return error;
     }
+};
+
+class FakeStatusItem : public StatusItem
+{
+public:
+    void setImage(StatusImage newImage) override { image = std::move(newImage); }
+    void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+    void setMenu(std::vector<StatusMenuEntry> newEntries, std::function<void()> newWillOpen) override
+    {
+        entries = std::move(newEntries);
+        willOpen = std::move(newWillOpen);
+    }
+    void setChecked(int index, bool isOn) override
+    {
+        if (isOn)
+            checked.insert(index);
+        else
+            checked.erase(index);
+    }
+
+    void choose(const QString &title)
+    {
+        for (const StatusMenuEntry &entry : entries) {
+            if (entry.title == title)
+                entry.action();
+        }
+    }
+
+    StatusImage image;
+    std::function<void()> action;
+    std::vector<StatusMenuEntry> entries;
+    std::function<void()> willOpen;
+    std::set<int> checked;
 };
 
 class FakeSurface : public OverlaySurface

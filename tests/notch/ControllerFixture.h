@@ -108,8 +108,9 @@ protected:
     FakeSmc smc;
     FakeThermal thermal;
     FakeLoginItem loginItem;
-    Platform platform{scheduler,  defaults,   folders, recorded, screens, pointer, unixSignals,
-                      appearance, statistics, power,   machine,  smc,     thermal, loginItem};
+    FakeStatusItem statusItem;
+    Platform platform{scheduler,  defaults, folders, recorded, screens, pointer,   unixSignals, appearance,
+                      statistics, power,    machine, smc,      thermal, loginItem, statusItem};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};
