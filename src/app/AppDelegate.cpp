@@ -3,6 +3,8 @@
 #include "app/AllWidgets.h"
 #include "app/DebugSignalControls.h"
 
+#include <QCoreApplication>
+
 namespace brimlight {
 
 QString launchLine(const QString &version)
@@ -22,6 +24,8 @@ void AppDelegate::applicationDidFinishLaunching()
     m_window.emplace([this](QWindow &window) { return m_platform.makeSurface(window); });
     m_notch.emplace(m_platform.ports(), *m_window, m_log, m_widgets);
     m_notch->show();
+    m_statusBar.emplace(*m_notch, *m_notch->loginItem(), m_platform.ports().statusItem,
+                        [] { QCoreApplication::quit(); });
     DebugSignalControls::installIfEnabled(m_flags, m_platform.ports().unixSignals, *m_notch, m_log);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/StatusBarController.h"
 #include "core/TraceLog.h"
 #include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
@@ -28,6 +29,7 @@ private:
     WidgetRegistry m_widgets;
     std::optional<NotchWindow> m_window;
     std::optional<NotchController> m_notch;
+    std::optional<StatusBarController> m_statusBar;
 };
 
 /// The line that the launch logs; a build without a version is called "dev".
