@@ -61,8 +61,7 @@ public:
     /// Signals of menus, in the order of their coming.
     QList<QDBusMessage> menuSignals;
 
-public Q_SLOTS:
-    Q_SCRIPTABLE void RegisterStatusNotifierItem(const QString &service); // NOLINT
+    Q_SCRIPTABLE Q_SLOT void RegisterStatusNotifierItem(const QString &service);
 
 private:
     Q_SLOT void menuSignal(const QDBusMessage &message) { menuSignals.append(message); }

@@ -76,27 +76,25 @@ public:
     static QString status() { return QStringLiteral("normal"); }
     static QStringList iconThemePath() { return {}; }
 
-    // NOLINTBEGIN(readability-identifier-naming): the names of the protocol
-public Q_SLOTS:
+    // From here on the names are those of the protocol.
     /// `depth` is how many levels below `parent` are wanted, -1 for all; no `names` stand for all properties.
-    Q_SCRIPTABLE uint GetLayout(int parent, int depth, const QStringList &names,
-                                brimlight::DBusMenuLayout &layout);
+    Q_SCRIPTABLE Q_SLOT uint GetLayout(int parent, int depth, const QStringList &names,
+                                       brimlight::DBusMenuLayout &layout);
     /// No `ids` stand for all entries.
-    Q_SCRIPTABLE QList<brimlight::DBusMenuProperties> GetGroupProperties(const QList<int> &ids,
-                                                                         const QStringList &names);
-    Q_SCRIPTABLE QDBusVariant GetProperty(int id, const QString &name);
-    Q_SCRIPTABLE void Event(int id, const QString &name, const QDBusVariant &data, uint timestamp);
+    Q_SCRIPTABLE Q_SLOT QList<brimlight::DBusMenuProperties> GetGroupProperties(const QList<int> &ids,
+                                                                                const QStringList &names);
+    Q_SCRIPTABLE Q_SLOT QDBusVariant GetProperty(int id, const QString &name);
+    Q_SCRIPTABLE Q_SLOT void Event(int id, const QString &name, const QDBusVariant &data, uint timestamp);
     /// Answers the entries that do not exist.
-    Q_SCRIPTABLE QList<int> EventGroup(const QList<brimlight::DBusMenuEvent> &events);
+    Q_SCRIPTABLE Q_SLOT QList<int> EventGroup(const QList<brimlight::DBusMenuEvent> &events);
     /// Whether the menu has changed by it.
-    Q_SCRIPTABLE bool AboutToShow(int id);
-    Q_SCRIPTABLE QList<int> AboutToShowGroup(const QList<int> &ids, QList<int> &unknown);
+    Q_SCRIPTABLE Q_SLOT bool AboutToShow(int id);
+    Q_SCRIPTABLE Q_SLOT QList<int> AboutToShowGroup(const QList<int> &ids, QList<int> &unknown);
 
 Q_SIGNALS:
     Q_SCRIPTABLE void LayoutUpdated(uint revision, int parent);
     Q_SCRIPTABLE void ItemsPropertiesUpdated(const QList<brimlight::DBusMenuProperties> &updated,
                                              const QList<brimlight::DBusMenuRemoved> &removed);
-    // NOLINTEND(readability-identifier-naming)
 
 private:
     static constexpr int root = 0;

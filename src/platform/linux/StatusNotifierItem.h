@@ -87,17 +87,15 @@ public:
     static bool itemIsMenu() { return false; }
     static QDBusObjectPath menu();
 
-    // NOLINTBEGIN(readability-identifier-naming): the names of the protocol
-public Q_SLOTS:
-    Q_SCRIPTABLE void Activate(int x, int y);
+    // From here on the names are those of the protocol.
+    Q_SCRIPTABLE Q_SLOT void Activate(int x, int y);
     /// From a host that cannot show the menu: what the program has to say stands in the panel as well.
-    Q_SCRIPTABLE void ContextMenu(int x, int y);
+    Q_SCRIPTABLE Q_SLOT void ContextMenu(int x, int y);
 
 Q_SIGNALS:
     Q_SCRIPTABLE void NewTitle();
     Q_SCRIPTABLE void NewIcon();
     Q_SCRIPTABLE void NewToolTip();
-    // NOLINTEND(readability-identifier-naming)
 
 private:
     Q_SLOT void ownerChanged(const QString &name, const QString &before, const QString &now);
