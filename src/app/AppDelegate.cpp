@@ -3,6 +3,8 @@
 #include "app/AllWidgets.h"
 #include "app/DebugSignalControls.h"
 
+#include <QCoreApplication>
+
 namespace brimlight {
 
 QString launchLine(const QString &version)
@@ -24,6 +26,8 @@ void AppDelegate::applicationDidFinishLaunching()
     m_idleMemory.emplace(*m_notch->viewModel(), m_platform.ports().scheduler,
                          LinuxPlatform::giveBackFreeMemory);
     m_notch->show();
+    m_statusBar.emplace(*m_notch, *m_notch->loginItem(), m_platform.ports().statusItem,
+                        [] { QCoreApplication::quit(); });
     DebugSignalControls::installIfEnabled(m_flags, m_platform.ports().unixSignals, *m_notch, m_log);
 }
 

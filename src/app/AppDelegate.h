@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/IdleMemory.h"
+#include "app/StatusBarController.h"
 #include "core/TraceLog.h"
 #include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
@@ -30,6 +31,7 @@ private:
     std::optional<NotchWindow> m_window;
     std::optional<NotchController> m_notch;
     std::optional<IdleMemory> m_idleMemory;
+    std::optional<StatusBarController> m_statusBar;
 };
 
 /// The line that the launch logs; a build without a version is called "dev".

@@ -1,6 +1,7 @@
 #include "app/BrimlightApp.h"
 
 #include "app/AppDelegate.h"
+#include "app/RunningInstance.h"
 #include "app/WidgetRenderHarness.h"
 #include "platform/linux/DisplayServer.h"
 #include "platform/linux/JournalLog.h"
@@ -27,6 +28,27 @@ void logMessage(QtMsgType type, const QMessageLogContext &context, const QString
     JournalLog().write(level, QStringLiteral("App"), message);
 }
 
+/// The exit status when another one runs on this display; else this one is the `instance` from now on.
+std::optional<int> leaveToRunningInstance(std::optional<RunningInstance> &instance)
+{
+    // Longer than a start takes on a slow machine.
+    constexpr std::chrono::seconds patience{5};
+    const auto folder = instanceFolder();
+    if (!folder)
+        return std::nullopt;
+    instance.emplace(*folder, instanceName());
+    switch (instance->claim(patience)) {
+    case RunningInstance::Outcome::first:
+        return std::nullopt;
+    case RunningInstance::Outcome::handedOver:
+        return 0;
+    case RunningInstance::Outcome::unresponsive:
+        break;
+    }
+    std::fprintf(stderr, "brimlight: another instance is running and does not respond\n");
+    return 1;
+}
+
 } // namespace
 
 int run(int argc, char **argv)
@@ -37,6 +59,9 @@ int run(int argc, char **argv)
         std::fprintf(stderr, "brimlight: %s\n", qPrintable(*reason));
         return 1;
     }
+    std::optional<RunningInstance> instance;
+    if (const auto status = leaveToRunningInstance(instance))
+        return *status;
     qInstallMessageHandler(logMessage);
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
@@ -47,6 +72,8 @@ int run(int argc, char **argv)
     {
         AppDelegate delegate;
         delegate.applicationDidFinishLaunching();
+        if (instance)
+            instance->answer([&delegate] { delegate.notch().open(); });
         status = QGuiApplication::exec();
     }
     // The thread of the bus may be at work, even wait for its daemon, and looks at the application object, so

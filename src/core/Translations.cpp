@@ -95,6 +95,20 @@ constexpr Row rows[] = {
       u"Personaliza temas, colores y actualizaciones aquí mismo. Todo se adapta a tu forma de trabajar.",
       u"Personalizza temi, colori e aggiornamenti direttamente qui. Tutto si adatta al tuo modo di lavorare."}},
 };
+
+// What the settings panel says beyond the table.
+constexpr Row panelRows[] = {
+    {{u"Live · 0.5 s", u"Live · 0,5 s", u"En direct · 0,5 s", u"En vivo · 0,5 s", u"Dal vivo · 0,5 s"}},
+    {{u"Balanced · 1 s", u"Ausgewogen · 1 s", u"Équilibré · 1 s", u"Equilibrado · 1 s", u"Bilanciato · 1 s"}},
+    {{u"Efficient · 2 s", u"Effizient · 2 s", u"Efficace · 2 s", u"Eficiente · 2 s", u"Efficiente · 2 s"}},
+    {{u"Power Saver · 5 s", u"Energiesparend · 5 s", u"Économie d'énergie · 5 s", u"Ahorro de energía · 5 s", u"Risparmio energetico · 5 s"}},
+    {{u"Live theme preview", u"Live-Vorschau des Farbschemas", u"Aperçu du thème en direct", u"Vista previa del tema", u"Anteprima del tema dal vivo"}},
+    {{u"Hue", u"Farbton", u"Teinte", u"Tono", u"Tonalità"}},
+    {{u"Saturation", u"Sättigung", u"Saturation", u"Saturación", u"Saturazione"}},
+    {{u"Brightness", u"Helligkeit", u"Luminosité", u"Brillo", u"Luminosità"}},
+    {{u"Opacity", u"Deckkraft", u"Opacité", u"Opacidad", u"Opacità"}},
+    {{u"Hex value", u"Hexwert", u"Valeur hexadécimale", u"Valor hexadecimal", u"Valore esadecimale"}},
+};
 // clang-format on
 
 QString text(const char16_t *literal)
@@ -107,6 +121,8 @@ const QHash<QString, const Row *> &rowsByKey()
     static const QHash<QString, const Row *> table = [] {
         QHash<QString, const Row *> hash;
         for (const Row &row : rows)
+            hash.insert(text(row.texts.front()), &row);
+        for (const Row &row : panelRows)
             hash.insert(text(row.texts.front()), &row);
         return hash;
     }();

@@ -19,10 +19,11 @@ std::optional<AppLanguage> languageFromRawValue(const QString &raw);
 /// The language's name for itself.
 QString label(AppLanguage language);
 
-/// The keys of the table in its order. A key is the English text itself.
+/// The keys of the table in its order, without those that only the settings panel uses. A key is the English
+/// text itself.
 QStringList translationKeys();
 
-/// The text of `key` in `language`; `key` itself when the table has no such row.
+/// The text of `key` in `language`; `key` itself when it is not translated.
 QString translate(const QString &key, AppLanguage language);
 
 } // namespace brimlight

@@ -2,6 +2,7 @@ import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
 import Brimlight.Grid
+import Brimlight.Settings
 import Brimlight.Notch
 
 // What the open panel shows: the walk-through, the settings or the grid, and the header above.
@@ -33,6 +34,11 @@ Item {
         (InputModality.isKeyboard ? next : root).forceActiveFocus(Qt.TabFocusReason);
     }
 
+    function focusSettings(): void {
+        if (settings.item)
+            (settings.item as ThemeSettingsView).takeFocus();
+    }
+
     opacity: shown ? 1 : 0
     scale: shown ? 1 : 0.95
     transformOrigin: Item.Top
@@ -58,6 +64,12 @@ Item {
         function onFlippedWidgetIDChanged() {
             if (root.viewModel.flippedWidget === "" && !InputModality.isKeyboard)
                 root.forceActiveFocus();
+        }
+        function onShowSettingsChanged() {
+            if (!root.viewModel.showSettings)
+                root.focusAfter(header.settingsButton);
+            else
+                Qt.callLater(root.focusSettings);
         }
         function onOnboardingCompletedChanged() {
             root.focusAfter(header.galleryButton);
@@ -98,6 +110,46 @@ Item {
         enabled: !root.galleryOpen
         controller: root.controller
         onGalleryRequested: root.openGallery()
+    }
+
+    // Made when it is opened, gone with the panel: it is rarely seen.
+    Loader {
+        id: settings
+
+        readonly property bool wanted: root.viewModel.onboardingCompleted && root.viewModel.showSettings && (root.shown || root.opacity > 0)
+        // The panel itself moves while it opens and closes.
+        readonly property bool fades: root.opacity === 1
+
+        anchors.fill: parent
+        anchors.topMargin: root.topInset
+        active: wanted || opacity > 0
+        opacity: wanted ? 1 : 0
+        scale: active ? 1 : 0.95
+        transformOrigin: Item.Top
+        enabled: wanted
+        sourceComponent: ThemeSettingsView {
+            theme: root.controller.theme // qmllint disable unqualified
+            settings: root.controller.appSettings // qmllint disable unqualified
+            loginItem: root.controller.loginItem // qmllint disable unqualified
+            updater: root.controller.updater // qmllint disable unqualified
+        }
+
+        Behavior on opacity {
+            enabled: settings.fades
+
+            NumberAnimation {
+                duration: Motion.fade.duration
+                easing: Motion.fade.easing
+            }
+        }
+        Behavior on scale {
+            enabled: settings.fades && settings.wanted
+
+            NumberAnimation {
+                duration: Motion.panel.duration
+                easing: Motion.panel.easing
+            }
+        }
     }
 
     Flickable {

@@ -26,7 +26,9 @@ NotchController::NotchController(const Platform &platform, NotchHosting &hosting
               platform.log)
     , m_grid(AppPaths(platform.folders).appSupportFile(QStringLiteral("grid.json")), widgets)
     , m_ticker(platform.scheduler, log)
+    , m_loginItem(platform.loginItem, platform.log)
     , m_appSettings(platform.defaults)
+    , m_updater(platform.defaults)
     , m_sensors(platform)
     , m_environment{widgets, m_grid, m_theme, m_appSettings, m_ticker, m_sensors.named()}
     , m_tiles(m_grid)
@@ -150,6 +152,8 @@ void NotchController::setPage(int index)
 void NotchController::openSettings()
 {
     open();
+    // The user may have changed it elsewhere.
+    m_loginItem.refresh();
     m_viewModel.setShowSettings(true);
 }
 

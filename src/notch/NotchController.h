@@ -2,6 +2,7 @@
 
 #include "core/AppPaths.h"
 #include "core/AppSettings.h"
+#include "core/LoginItemService.h"
 #include "core/TickCoordinator.h"
 #include "core/TraceLog.h"
 #include "grid/GridDrag.h"
@@ -19,6 +20,7 @@
 #include "sensors/SensorStores.h"
 #include "theme/Motion.h"
 #include "theme/ThemeStore.h"
+#include "update/UpdateService.h"
 
 #include <QObject>
 #include <QtQmlIntegration>
@@ -50,6 +52,8 @@ class NotchController : public QObject
     Q_PROPERTY(brimlight::NotchPanel *panel READ panel CONSTANT)
     Q_PROPERTY(brimlight::ThemeStore *theme READ theme CONSTANT)
     Q_PROPERTY(brimlight::AppSettings *appSettings READ appSettings CONSTANT)
+    Q_PROPERTY(brimlight::LoginItemService *loginItem READ loginItem CONSTANT)
+    Q_PROPERTY(brimlight::UpdateService *updater READ updater CONSTANT)
     Q_PROPERTY(brimlight::TickCoordinator *ticker READ ticker CONSTANT)
     Q_PROPERTY(brimlight::GridStore *grid READ grid CONSTANT)
     Q_PROPERTY(brimlight::TileModel *tiles READ tiles CONSTANT)
@@ -100,6 +104,8 @@ public:
     WidgetCatalog *catalog() { return &m_catalog; }
     PageControls *pageControls() { return &m_pageControls; }
     AppSettings *appSettings() { return &m_appSettings; }
+    LoginItemService *loginItem() { return &m_loginItem; }
+    UpdateService *updater() { return &m_updater; }
     TickCoordinator *ticker() { return &m_ticker; }
     SensorStores &sensors() { return m_sensors; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
@@ -143,7 +149,9 @@ private:
     ThemeStore m_theme;
     GridStore m_grid;
     TickCoordinator m_ticker;
+    LoginItemService m_loginItem;
     AppSettings m_appSettings;
+    UpdateService m_updater;
     SensorStores m_sensors;
     WidgetEnvironment m_environment;
     TileModel m_tiles;

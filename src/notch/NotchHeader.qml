@@ -12,6 +12,7 @@ Item {
     readonly property NotchViewModel viewModel: controller.viewModel
     readonly property theme colors: controller.theme.current
     readonly property alias galleryButton: add
+    readonly property alias settingsButton: gear
 
     signal galleryRequested
 
@@ -140,6 +141,8 @@ Item {
             onClicked: root.controller.togglePin()
         }
         NotchHeaderButton {
+            id: gear
+
             visible: !root.viewModel.showSettings
             colors: root.colors
             systemImage: "gearshape"

@@ -1,6 +1,7 @@
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
+import Brimlight.Grid
 import Brimlight.Notch
 
 // The first-run walk-through. Who has clicked on "Next" can go on with keys.

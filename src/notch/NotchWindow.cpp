@@ -10,6 +10,8 @@
 void qml_register_types_Brimlight_Core();
 void qml_register_types_Brimlight_Theme();
 void qml_register_types_Brimlight_Grid();
+void qml_register_types_Brimlight_Update();
+void qml_register_types_Brimlight_Settings();
 void qml_register_types_Brimlight_Notch();
 
 namespace brimlight {
@@ -17,8 +19,9 @@ namespace {
 
 using Registration = void (*)();
 [[gnu::used]] const Registration registrations[] = {
-    &qml_register_types_Brimlight_Core, &qml_register_types_Brimlight_Theme,
-    &qml_register_types_Brimlight_Grid, &qml_register_types_Brimlight_Notch};
+    &qml_register_types_Brimlight_Core,     &qml_register_types_Brimlight_Theme,
+    &qml_register_types_Brimlight_Grid,     &qml_register_types_Brimlight_Update,
+    &qml_register_types_Brimlight_Settings, &qml_register_types_Brimlight_Notch};
 
 bool takesText(const QQuickItem &item)
 {

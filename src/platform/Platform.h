@@ -4,12 +4,14 @@
 #include "platform/Folders.h"
 #include "platform/HostStatistics.h"
 #include "platform/Log.h"
+#include "platform/LoginItem.h"
 #include "platform/MachineInfo.h"
 #include "platform/Pointer.h"
 #include "platform/PowerSources.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
 #include "platform/SmcTransport.h"
+#include "platform/StatusItem.h"
 #include "platform/ThermalServices.h"
 #include "platform/UnixSignals.h"
 #include "platform/UserDefaults.h"
@@ -32,6 +34,8 @@ struct Platform
     MachineInfo &machine;
     SmcTransport &smc;
     ThermalServices &thermal;
+    LoginItem &loginItem;
+    StatusItem &statusItem;
 };
 
 } // namespace brimlight

@@ -1,10 +1,10 @@
 #include "theme/Symbol.h"
 
 #include "theme/SymbolColors.h"
+#include "theme/SymbolImage.h"
 #include "theme/SymbolOutline.h"
 #include "theme/SymbolTable.h"
 
-#include <QFile>
 #include <QPainter>
 
 #include <algorithm>
@@ -19,12 +19,6 @@ constexpr double boxPerTextSize = 1.15;
 constexpr double boldExtra = 0.8;
 constexpr int regularWeight = 400;
 constexpr int boldWeight = 700;
-
-std::vector<QPainterPath> readOutline(const QString &name)
-{
-    QFile file(symbolResource(symbolPicture(name)));
-    return file.open(QIODevice::ReadOnly) ? symbolOutline(file.readAll()) : std::vector<QPainterPath>();
-}
 
 } // namespace
 
@@ -84,7 +78,7 @@ double Symbol::extraWidth() const
 void Symbol::paint(QPainter *painter)
 {
     if (m_outline.empty())
-        m_outline = readOutline(m_name);
+        m_outline = outlineOfSymbol(m_name);
 
     const double thicker = extraWidth();
     const double box = std::min({implicitWidth(), width(), height()});

@@ -8,6 +8,7 @@
 #include <QMap>
 
 #include <algorithm>
+#include <set>
 
 namespace brimlight::test {
 
@@ -179,6 +180,59 @@ public:
     bool reducedMotion = false;
     bool reducedTransparency = false;
     std::function<void()> notify;
+};
+
+class FakeLoginItem : public LoginItem
+{
+public:
+    bool isEnabled() const override { return enabled; }
+    std::optional<QString> enable() override { return change(true); }
+    std::optional<QString> disable() override { return change(false); }
+
+    bool enabled = false;
+    /// What every change fails with.
+    std::optional<QString> error;
+
+private:
+    std::optional<QString> change(bool to)
+    {
+        if (!error)
+            enabled = to;
+        return error;
+    }
+};
+
+class FakeStatusItem : public StatusItem
+{
+public:
+    void setImage(StatusImage newImage) override { image = std::move(newImage); }
+    void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+    void setMenu(std::vector<StatusMenuEntry> newEntries, std::function<void()> newWillOpen) override
+    {
+        entries = std::move(newEntries);
+        willOpen = std::move(newWillOpen);
+    }
+    void setChecked(int index, bool isOn) override
+    {
+        if (isOn)
+            checked.insert(index);
+        else
+            checked.erase(index);
+    }
+
+    void choose(const QString &title)
+    {
+        for (const StatusMenuEntry &entry : entries) {
+            if (entry.title == title)
+                entry.action();
+        }
+    }
+
+    StatusImage image;
+    std::function<void()> action;
+    std::vector<StatusMenuEntry> entries;
+    std::function<void()> willOpen;
+    std::set<int> checked;
 };
 
 class FakeSurface : public OverlaySurface

@@ -107,8 +107,10 @@ protected:
     FakeMachine machine;
     FakeSmc smc;
     FakeThermal thermal;
-    Platform platform{scheduler,  defaults,   folders, recorded, screens, pointer, unixSignals,
-                      appearance, statistics, power,   machine,  smc,     thermal};
+    FakeLoginItem loginItem;
+    FakeStatusItem statusItem;
+    Platform platform{scheduler,  defaults, folders, recorded, screens, pointer,   unixSignals, appearance,
+                      statistics, power,    machine, smc,      thermal, loginItem, statusItem};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

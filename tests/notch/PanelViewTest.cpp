@@ -215,6 +215,88 @@ TEST_P(WalkthroughIn, ALanguageInTheDefaultsChangesAllTexts)
     }
 }
 
+class SettingsPanel : public PanelView
+{
+protected:
+    bool isShown() { return !scene.ofType("ThemeSettingsView").isEmpty(); }
+    void press(const QString &button)
+    {
+        QQuickItem *item = scene.button(button);
+        ASSERT_TRUE(item) << qPrintable(button);
+        scene.click(*item);
+        settle();
+    }
+};
+
+TEST_F(SettingsPanel, OpensByTheGearInsteadOfTheGridAndClosesByBack)
+{
+    start();
+    controller->setExpanded(true);
+    settle();
+    EXPECT_FALSE(isShown());
+    press(QStringLiteral("Settings"));
+    EXPECT_TRUE(isShown());
+    EXPECT_TRUE(model().isPinned());
+    EXPECT_EQ(panel().frame().height, 540);
+    EXPECT_TRUE(scene.ofType("WidgetGridView").isEmpty());
+    press(QStringLiteral("Back"));
+    EXPECT_FALSE(isShown());
+    EXPECT_FALSE(scene.ofType("WidgetGridView").isEmpty());
+    EXPECT_TRUE(model().isPinned()) << "going back leaves the pin";
+}
+
+TEST_F(SettingsPanel, EscapeLeavesItAndThenClosesThePanel)
+{
+    start();
+    open();
+    press(QStringLiteral("Settings"));
+    QTest::keyClick(&window.view(), Qt::Key_Escape);
+    settle();
+    EXPECT_FALSE(isShown());
+    EXPECT_TRUE(isExpanded());
+    QTest::keyClick(&window.view(), Qt::Key_Escape);
+    EXPECT_FALSE(isExpanded());
+}
+
+TEST_F(SettingsPanel, AClickBetweenItsControlsDoesNotCloseThePanel)
+{
+    start();
+    open();
+    press(QStringLiteral("Settings"));
+    const QList<QQuickItem *> cards = scene.ofType("SettingsCard");
+    ASSERT_GT(cards.size(), 1);
+    scene.click(Scene::frameOf(*cards[0]).bottomLeft() + QPointF(40, 6));
+    scene.click(Scene::frameOf(*cards[0]).topLeft() + QPointF(4, 4));
+    settle();
+    EXPECT_TRUE(isExpanded());
+}
+
+TEST_F(SettingsPanel, IsReleasedWithTheClosedPanelAndOpensOnTheFirstTabAgain)
+{
+    start();
+    controller->openSettings();
+    settle();
+    scene.click(*scene.withRole(QAccessible::PageTab).last());
+    settle();
+    EXPECT_TRUE(scene.texts().contains(QStringLiteral("Theme Presets")));
+    controller->requestClose();
+    settle();
+    EXPECT_FALSE(isShown());
+    controller->open();
+    settle();
+    EXPECT_TRUE(isShown());
+    EXPECT_TRUE(scene.texts().contains(QStringLiteral("Startup")));
+}
+
+TEST_F(SettingsPanel, OpeningAsksTheSystemForTheLoginItemAgain)
+{
+    start();
+    EXPECT_FALSE(controller->loginItem()->isEnabled());
+    loginItem.enabled = true;
+    controller->openSettings();
+    EXPECT_TRUE(controller->loginItem()->isEnabled());
+}
+
 class Content : public PanelView
 {
 protected:

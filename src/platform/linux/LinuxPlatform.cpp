@@ -10,13 +10,16 @@
 #include "platform/linux/PipeUnixSignals.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/QtScreens.h"
+#include "platform/linux/StatusNotifierItem.h"
 #include "platform/linux/SysfsPowerSources.h"
 #include "platform/linux/ThermalZones.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11OverlaySurface.h"
 #include "platform/linux/X11Pointer.h"
+#include "platform/linux/XdgAutostart.h"
 #include "platform/linux/XdgFolders.h"
 
+#include <QCoreApplication>
 #include <QWindow>
 
 #include <malloc.h>
@@ -68,6 +71,8 @@ struct LinuxPlatform::Backends
     BoundedRead sensors;
     HwmonSmc smc{sensors};
     ThermalZones thermal{sensors};
+    XdgAutostart loginItem{folders.autostartFolder(), QCoreApplication::applicationFilePath()};
+    StatusNotifierItem statusItem{scheduler};
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -94,8 +99,8 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,  b.defaults,   b.folders, b.log,     b.screens, b.pointer, b.unixSignals,
-            b.appearance, b.statistics, b.power,   b.machine, b.smc,     b.thermal};
+    return {b.scheduler,  b.defaults, b.folders, b.log, b.screens, b.pointer,   b.unixSignals, b.appearance,
+            b.statistics, b.power,    b.machine, b.smc, b.thermal, b.loginItem, b.statusItem};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

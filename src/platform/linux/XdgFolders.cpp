@@ -34,4 +34,10 @@ QString XdgFolders::userDefaultsFile() const
     return base + QStringLiteral("/Brimlight/defaults.json");
 }
 
+QString XdgFolders::autostartFolder() const
+{
+    const auto base = writable(QStandardPaths::GenericConfigLocation, "XDG_CONFIG_HOME");
+    return base ? *base + QStringLiteral("/autostart") : QString();
+}
+
 } // namespace brimlight

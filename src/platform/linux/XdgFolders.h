@@ -13,6 +13,8 @@ public:
 
     /// The file of the user defaults, in the folder "Brimlight" of the configuration home.
     QString userDefaultsFile() const;
+    /// Where the desktop looks for what it starts at login; empty for a user without a home.
+    QString autostartFolder() const;
 };
 
 } // namespace brimlight

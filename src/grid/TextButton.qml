@@ -1,5 +1,4 @@
 import QtQuick
-import Brimlight.Grid
 import Brimlight.Theme
 
 // A capsule with a text.

@@ -1,0 +1,41 @@
+import QtQuick
+import Brimlight.Theme
+
+// Says that something is going on. It turns in steps, which is cheap to draw.
+Item {
+    id: root
+
+    required property color color
+
+    implicitWidth: 14
+    implicitHeight: 14
+
+    Item {
+        id: dots
+
+        anchors.fill: parent
+
+        Repeater {
+            model: 8
+
+            Rectangle {
+                required property int index
+                readonly property real angle: index * Math.PI / 4
+
+                x: 7 + 5.5 * Math.sin(angle) - 1.25
+                y: 7 - 5.5 * Math.cos(angle) - 1.25
+                width: 2.5
+                height: 2.5
+                radius: 1.25
+                color: root.color
+                opacity: (index + 1) / 8
+            }
+        }
+    }
+    Timer {
+        interval: 100
+        repeat: true
+        running: root.visible && !Motion.reduced
+        onTriggered: dots.rotation = (dots.rotation + 45) % 360
+    }
+}

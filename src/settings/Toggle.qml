@@ -1,0 +1,68 @@
+import QtQuick
+import Brimlight.Theme
+import Brimlight.Grid
+
+// A switch at the end of its label.
+AbstractButton {
+    id: root
+
+    required property bool on
+    required property theme colors
+
+    role: Accessible.CheckBox
+    implicitHeight: Math.max(24, caption.height)
+    Accessible.checkable: true
+    Accessible.checked: on
+    Accessible.onToggleAction: clicked()
+
+    Text {
+        id: caption
+
+        anchors.left: parent.left
+        anchors.right: track.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.label
+        color: root.colors.textPrimary
+        wrapMode: Text.WordWrap
+        font.family: Fonts.rounded
+        font.pixelSize: 11
+    }
+    Rectangle {
+        id: track
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        width: 32
+        height: 18
+        radius: 9
+        color: root.on ? root.colors.accent : Qt.rgba(1, 1, 1, root.hovered ? 0.24 : 0.18)
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Motion.quickFade.duration
+            }
+        }
+
+        FocusRing {
+            target: root
+            border.color: root.colors.textPrimary
+        }
+        Rectangle {
+            x: root.on ? parent.width - width - 2 : 2
+            y: 2
+            width: 14
+            height: 14
+            radius: 7
+            color: "white"
+            border.color: Qt.rgba(0, 0, 0, 0.18)
+
+            Behavior on x {
+                NumberAnimation {
+                    duration: Motion.selection.duration
+                    easing: Motion.selection.easing
+                }
+            }
+        }
+    }
+}
