@@ -130,7 +130,7 @@ TEST_P(Settings, BothTabsHaveNamesAndRoles)
 
     click(u"page tab"_s, u"Appearance"_s);
     EXPECT_TRUE(becomesChecked(u"radio button"_s, u"Midnight"_s));
-    press(u"push button"_s, u"Accent Highlight"_s);
+    press(u"toggle button"_s, u"Accent Highlight"_s);
     ASSERT_TRUE(shows(u"text"_s, u"Hex value"_s));
     // The back button, two tabs, five sliders, 25 swatches, the reset, six colours and a text.
     expectNamesAndRoles(41);
@@ -153,9 +153,9 @@ TEST_P(Settings, APresetAndAColorHoldAfterARestart)
     click(u"page tab"_s, u"Appearance"_s);
     click(u"radio button"_s, u"Ocean"_s);
     EXPECT_TRUE(becomesChecked(u"radio button"_s, u"Ocean"_s));
-    EXPECT_TRUE(waitUntil([this] { return theme()[u"id"] == u"ocean"; }));
+    EXPECT_TRUE(waitUntil([this] { return theme()[u"id"].toString() == u"ocean"; }));
 
-    press(u"push button"_s, u"Notch Surface"_s);
+    press(u"toggle button"_s, u"Notch Surface"_s);
     ASSERT_TRUE(shows(u"text"_s, u"Hex value"_s));
     reader->grabFocus(*reader->find(u"text"_s, u"Hex value"_s));
     ASSERT_TRUE(waitUntil([this] { return reader->focus() == u"text Hex value"; }));
@@ -163,7 +163,7 @@ TEST_P(Settings, APresetAndAColorHoldAfterARestart)
     for (const char c : QByteArray("802040"))
         hand.typeKey(static_cast<uint32_t>(c));
     hand.typeKey(enter);
-    EXPECT_TRUE(waitUntil([this] { return theme()[u"id"] == u"custom"; }));
+    EXPECT_TRUE(waitUntil([this] { return theme()[u"id"].toString() == u"custom"; }));
     EXPECT_TRUE(waitUntil([this] {
         const QJsonObject surface = theme()[u"surface"].toObject();
         return qRound(surface[u"red"].toDouble() * 255) == 0x80 &&
@@ -178,7 +178,7 @@ TEST_P(Settings, APresetAndAColorHoldAfterARestart)
     ASSERT_TRUE(shows(u"radio button"_s, u"Ocean"_s));
     EXPECT_FALSE(isChecked(u"radio button"_s, u"Ocean"_s));
     EXPECT_FALSE(isChecked(u"radio button"_s, u"Midnight"_s));
-    press(u"push button"_s, u"Notch Surface"_s);
+    press(u"toggle button"_s, u"Notch Surface"_s);
     ASSERT_TRUE(shows(u"text"_s, u"Hex value"_s));
     press(u"push button"_s, u"Reset to Default Preset"_s);
     EXPECT_TRUE(becomesChecked(u"radio button"_s, u"Midnight"_s));
