@@ -70,11 +70,17 @@ ScrollArea {
             marked: choices.marked
             onChosen: id => root.theme.selectPalette(id)
         }
-        TextButton {
-            height: 24
-            colors: root.colors
-            text: qsTr("Reset to Default Preset")
-            onClicked: root.theme.reset()
+        Item {
+            width: parent.width
+            height: 28
+
+            TextButton {
+                anchors.bottom: parent.bottom
+                height: 24
+                colors: root.colors
+                text: qsTr("Reset to Default Preset")
+                onClicked: root.theme.reset()
+            }
         }
     }
     SettingsCard {

@@ -58,24 +58,29 @@ Column {
             font.pixelSize: 10
         }
         // Half of it on white and half on black, so that the opacity shows.
-        Rectangle {
+        Item {
             id: well
 
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             width: 40
             height: 20
-            radius: 6
-            gradient: Gradient {
-                orientation: Gradient.Horizontal
 
-                GradientStop {
-                    position: 0.499
-                    color: "#E6E6E6"
-                }
-                GradientStop {
-                    position: 0.501
-                    color: "#1A1A1A"
+            Rectangle {
+                anchors.fill: parent
+                anchors.margins: 1
+                radius: 5
+                gradient: Gradient {
+                    orientation: Gradient.Horizontal
+
+                    GradientStop {
+                        position: 0.499
+                        color: "#E6E6E6"
+                    }
+                    GradientStop {
+                        position: 0.501
+                        color: "#1A1A1A"
+                    }
                 }
             }
 

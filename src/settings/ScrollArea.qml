@@ -46,10 +46,13 @@ Item {
         }
     }
     Rectangle {
-        x: parent.width - 9
-        y: flickable.visibleArea.yPosition * flickable.height
+        // Clear of the round corner of the panel.
+        readonly property real reach: flickable.height - 32
+
+        x: parent.width - 10
+        y: flickable.visibleArea.yPosition * reach
         width: 3
-        height: flickable.visibleArea.heightRatio * flickable.height
+        height: flickable.visibleArea.heightRatio * reach
         radius: 1.5
         visible: flickable.visibleArea.heightRatio < 1
         color: root.colors.textPrimary

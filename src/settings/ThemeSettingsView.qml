@@ -20,6 +20,8 @@ Item {
 
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Settings")
+    // Otherwise Tab would begin at the top of the panel.
+    Keys.onTabPressed: general.forceActiveFocus(Qt.TabFocusReason)
 
     // A click that misses a control must not close the panel.
     Tap {}
@@ -55,7 +57,7 @@ Item {
         sourceComponent: root.activeTab === 0 ? generalTab : appearanceTab
     }
     Item {
-        id: overlay
+        id: menuLayer
 
         anchors.fill: parent
     }
@@ -67,7 +69,7 @@ Item {
             settings: root.settings
             loginItem: root.loginItem
             updater: root.updater
-            overlay: overlay
+            overlay: menuLayer
         }
     }
     Component {

@@ -44,6 +44,8 @@ protected:
     {
         time.advanceBy(0ms);
         time.advanceBy(3s);
+        // Lays out what has grown.
+        view.grabWindow();
     }
     QQuickItem *find(QAccessible::Role role, const QString &name) const
     {

@@ -119,7 +119,7 @@ XdgAutostart::XdgAutostart(const QString &folder, QString executable)
 
 bool XdgAutostart::isEnabled() const
 {
-    const auto content = contentOf(m_path);
+    const auto content = m_path.isEmpty() ? std::nullopt : contentOf(m_path);
     if (!content)
         return false;
     const EntryLines entry(*content);
