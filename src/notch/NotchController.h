@@ -17,6 +17,7 @@
 #include "platform/Platform.h"
 #include "platform/WorkItem.h"
 #include "sensors/SensorStores.h"
+#include "sensors/SystemStatusMonitor.h"
 #include "theme/Motion.h"
 #include "theme/ThemeStore.h"
 
@@ -51,6 +52,7 @@ class NotchController : public QObject
     Q_PROPERTY(brimlight::ThemeStore *theme READ theme CONSTANT)
     Q_PROPERTY(brimlight::AppSettings *appSettings READ appSettings CONSTANT)
     Q_PROPERTY(brimlight::TickCoordinator *ticker READ ticker CONSTANT)
+    Q_PROPERTY(brimlight::SystemStatusMonitor *statusMonitor READ statusMonitor CONSTANT)
     Q_PROPERTY(brimlight::GridStore *grid READ grid CONSTANT)
     Q_PROPERTY(brimlight::TileModel *tiles READ tiles CONSTANT)
     Q_PROPERTY(brimlight::GridDrag *gridDrag READ gridDrag CONSTANT)
@@ -102,6 +104,7 @@ public:
     AppSettings *appSettings() { return &m_appSettings; }
     TickCoordinator *ticker() { return &m_ticker; }
     SensorStores &sensors() { return m_sensors; }
+    SystemStatusMonitor *statusMonitor() { return &m_statusMonitor; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
     bool isCollapsePending() const { return m_collapseWork.isPending(); }
 
@@ -145,6 +148,7 @@ private:
     TickCoordinator m_ticker;
     AppSettings m_appSettings;
     SensorStores m_sensors;
+    SystemStatusMonitor m_statusMonitor;
     WidgetEnvironment m_environment;
     TileModel m_tiles;
     GridDrag m_gridDrag;

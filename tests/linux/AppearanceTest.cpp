@@ -1,19 +1,12 @@
 #include "platform/linux/DesktopAppearance.h"
 
 #include "fakes/ManualScheduler.h"
+#include "linux/PrivateBus.h"
 
 #include <gtest/gtest.h>
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QEventLoop>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTimer>
-
-#include <atomic>
 
 namespace brimlight::test {
 
@@ -28,61 +21,6 @@ const QString plasma = QStringLiteral("org.kde.kdeglobals.KDE");
 const QString animations = QStringLiteral("enable-animations");
 const QString contrast = QStringLiteral("contrast");
 const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
-
-bool waitFor(const std::function<bool()> &condition)
-{
-    QEventLoop loop;
-    QTimer guard;
-    bool timedOut = false;
-    QObject::connect(&guard, &QTimer::timeout, [&] { timedOut = true; });
-    guard.start(5s);
-    while (!condition() && !timedOut)
-        loop.processEvents(QEventLoop::WaitForMoreEvents);
-    return condition();
-}
-
-/// A bus of its own that starts no services.
-class PrivateBus
-{
-public:
-    PrivateBus()
-    {
-        QFile configuration(m_folder.filePath(QStringLiteral("bus.conf")));
-        if (!configuration.open(QIODevice::WriteOnly))
-            return;
-        configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
-                            "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
-                            "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
-        configuration.close();
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                        QStringLiteral("--print-address"),
-                        QStringLiteral("--config-file=%1").arg(configuration.fileName())});
-        while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(5000)) {
-        }
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-    }
-    ~PrivateBus()
-    {
-        m_daemon.terminate();
-        m_daemon.waitForFinished();
-    }
-
-    const QString &address() const { return m_address; }
-
-private:
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
-    QString m_address;
-};
-
-/// A connection of its own. It is never closed: Qt lets its thread fall over connections that are closed
-/// while another thread opens one.
-QDBusConnection newConnection(const QString &address)
-{
-    static std::atomic<int> count = 0;
-    return QDBusConnection::connectToBus(address, QString::number(++count));
-}
 
 class FakePortal : public QObject
 {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "fakes/FakeAudioServer.h"
 #include "fakes/FakeHostStatistics.h"
 #include "fakes/FakePowerSources.h"
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
+#include "fakes/SwitchFakes.h"
 #include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
 
@@ -107,8 +109,14 @@ protected:
     FakeMachine machine;
     FakeSmc smc;
     FakeThermal thermal;
-    Platform platform{scheduler,  defaults,   folders, recorded, screens, pointer, unixSignals,
-                      appearance, statistics, power,   machine,  smc,     thermal};
+    FakeAudioServer audio;
+    FakeDoNotDisturb doNotDisturb;
+    FakeScriptHost scripts;
+    FakePowerAssertions powerAssertions;
+    FakeSounds sounds;
+    Platform platform{scheduler,   defaults,   folders,      recorded, screens,         pointer,
+                      unixSignals, appearance, statistics,   power,    machine,         smc,
+                      thermal,     audio,      doNotDisturb, scripts,  powerAssertions, sounds};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

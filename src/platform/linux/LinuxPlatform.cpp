@@ -3,20 +3,25 @@
 #include "platform/linux/BoundedRead.h"
 #include "platform/linux/DesktopAppearance.h"
 #include "platform/linux/HwmonSmc.h"
+#include "platform/linux/InhibitorAssertions.h"
 #include "platform/linux/JournalLog.h"
 #include "platform/linux/JsonUserDefaults.h"
+#include "platform/linux/LinuxDoNotDisturb.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxMachineInfo.h"
 #include "platform/linux/PipeUnixSignals.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/QtScreens.h"
 #include "platform/linux/SysfsPowerSources.h"
+#include "platform/linux/SystemOperations.h"
+#include "platform/linux/ThemeSounds.h"
 #include "platform/linux/ThermalZones.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11OverlaySurface.h"
 #include "platform/linux/X11Pointer.h"
 #include "platform/linux/XdgFolders.h"
 
+#include <QThreadPool>
 #include <QWindow>
 
 namespace brimlight {
@@ -47,6 +52,33 @@ private:
     QWindow &m_window;
 };
 
+/// A machine without an audio server.
+class SilentAudio : public AudioServer
+{
+public:
+    explicit SilentAudio(Scheduler &scheduler)
+        : m_scheduler(scheduler)
+    {
+    }
+
+    std::unique_ptr<AudioWatch> watch(AudioDirection, std::function<void(AudioDeviceState)>,
+                                      std::function<void(AudioDeviceState)>) override
+    {
+        return nullptr;
+    }
+    void outputMuted(QObject &context, std::function<void(std::optional<bool>)> answered) override
+    {
+        m_scheduler.post(context, [answered] { answered(std::nullopt); });
+    }
+    void toggleOutputMuted(QObject &context, std::function<void()> done) override
+    {
+        m_scheduler.post(context, done);
+    }
+
+private:
+    Scheduler &m_scheduler;
+};
+
 } // namespace
 
 struct LinuxPlatform::Backends
@@ -66,6 +98,18 @@ struct LinuxPlatform::Backends
     BoundedRead sensors;
     HwmonSmc smc{sensors};
     ThermalZones thermal{sensors};
+    SilentAudio audio{scheduler};
+    LinuxDoNotDisturb doNotDisturb{scheduler};
+    LinuxScriptHost scripts{
+        scheduler,
+        SystemOperations{
+            .audio = audio,
+            .darkModeSet = [this](bool isDark) { appearance.setDark(isDark); },
+            .usesGnomeSettings =
+                !qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QStringLiteral("KDE"))}
+            .table()};
+    InhibitorAssertions powerAssertions;
+    ThemeSounds sounds;
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -85,6 +129,9 @@ struct LinuxPlatform::Backends
 LinuxPlatform::LinuxPlatform()
     : m_backends(std::make_unique<Backends>())
 {
+    // What runs on these threads waits rather than works: one slow file system must not hold up the bus.
+    constexpr int enough = 8;
+    QThreadPool::globalInstance()->setMaxThreadCount(enough);
 }
 
 LinuxPlatform::~LinuxPlatform() = default;
@@ -92,8 +139,9 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,  b.defaults,   b.folders, b.log,     b.screens, b.pointer, b.unixSignals,
-            b.appearance, b.statistics, b.power,   b.machine, b.smc,     b.thermal};
+    return {b.scheduler,   b.defaults,   b.folders,      b.log,     b.screens,         b.pointer,
+            b.unixSignals, b.appearance, b.statistics,   b.power,   b.machine,         b.smc,
+            b.thermal,     b.audio,      b.doNotDisturb, b.scripts, b.powerAssertions, b.sounds};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)
