@@ -10,12 +10,14 @@ AbstractButton {
     // That of the tile.
     required property string size
     required property string symbol
+    // The name in short.
+    required property string caption
     // Whether it stays pressed: a button does not.
     property bool stays: true
     property bool on: false
     readonly property bool lit: hovered || keyed
 
-    height: disc.height + 3 + caption.height
+    height: disc.height + 3 + name.height
     role: stays ? Accessible.CheckBox : Accessible.Button
     Accessible.checkable: stays
     Accessible.checked: on
@@ -33,7 +35,8 @@ AbstractButton {
 
         Behavior on color {
             ColorAnimation {
-                duration: Motion.reduced ? 0 : 150
+                duration: Motion.headerHover.duration
+                easing: Motion.headerHover.easing
             }
         }
 
@@ -49,13 +52,13 @@ AbstractButton {
         }
     }
     Text {
-        id: caption
+        id: name
 
         anchors.top: disc.bottom
         anchors.topMargin: 3
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
-        text: root.label
+        text: root.caption
         color: root.on ? root.colors.textPrimary : root.colors.textSecondary
         elide: Text.ElideRight
         fontSizeMode: Text.HorizontalFit

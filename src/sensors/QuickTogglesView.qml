@@ -1,5 +1,4 @@
 import QtQuick
-import Brimlight.Core
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -22,6 +21,8 @@ Item {
     }
 
     WidgetTitle {
+        id: heading
+
         visible: root.isLarge
         x: 4
         y: 3
@@ -32,7 +33,7 @@ Item {
     Row {
         id: row
 
-        anchors.verticalCenter: parent.verticalCenter
+        y: (parent.height - height + (heading.visible ? heading.y + heading.height : 0)) / 2
         width: parent.width
 
         QuickToggle {
@@ -41,6 +42,7 @@ Item {
             size: root.context.size
             symbol: "cup.and.saucer.fill"
             label: "Caffeine"
+            caption: "Caffeine"
             on: store.caffeineActive
             onClicked: store.toggleCaffeine()
         }
@@ -51,6 +53,7 @@ Item {
             size: root.context.size
             symbol: store.darkModeActive ? "moon.fill" : "sun.max"
             label: "Dark Mode"
+            caption: "Dark"
             on: store.darkModeActive
             onClicked: store.toggleDarkMode()
         }
@@ -61,6 +64,7 @@ Item {
             size: root.context.size
             symbol: store.mutedActive ? "speaker.slash.fill" : "speaker.wave.2"
             label: "Mute"
+            caption: "Mute"
             on: store.mutedActive
             onClicked: store.toggleMute()
         }
@@ -71,6 +75,7 @@ Item {
             size: root.context.size
             symbol: "trash"
             label: "Empty Trash"
+            caption: "Trash"
             stays: false
             onClicked: store.emptyTrash()
         }

@@ -22,9 +22,9 @@ public:
     bool areHidden() const { return m_areHidden; }
 
 private:
-    void follow(const std::shared_ptr<GnomeSetting> &setting);
+    void follow(std::unique_ptr<GnomeSetting> setting);
 
-    std::shared_ptr<GnomeSetting> m_setting;
+    std::unique_ptr<GnomeSetting> m_setting;
     bool m_areHidden = false;
     std::unique_ptr<Scheduled> m_start;
 };

@@ -6,15 +6,14 @@
 
 namespace brimlight {
 
-std::shared_ptr<GnomeSetting> GnomeSetting::open(const QString &schema, const QString &key)
+std::unique_ptr<GnomeSetting> GnomeSetting::open(const QString &schema, const QString &key)
 {
     const Gio *gio = Gio::library();
     GSettingsSchemaSource *source = gio ? gio->schemaSource() : nullptr;
     GSettingsSchema *known = source ? gio->lookup(source, schema.toUtf8().constData(), TRUE) : nullptr;
     if (!known)
         return nullptr;
-    std::shared_ptr<GnomeSetting> setting;
-    // Told of changes is the main loop, whatever thread this is: Qt's loop is GLib's.
+    std::unique_ptr<GnomeSetting> setting;
     if (const QByteArray name = key.toUtf8(); gio->hasKey(known, name.constData()))
         setting.reset(new GnomeSetting(*gio, gio->newSettings(known, nullptr, nullptr), name));
     gio->unrefSchema(known);

@@ -13,8 +13,8 @@ class GnomeSetting
 {
 public:
     /// Null where this machine does not know the key: asking for one that is not there would end the program.
-    /// Reads files, so not on the main thread.
-    static std::shared_ptr<GnomeSetting> open(const QString &schema, const QString &key);
+    /// The first one that is opened loads a library and files, so not on the main thread.
+    static std::unique_ptr<GnomeSetting> open(const QString &schema, const QString &key);
     ~GnomeSetting();
     GnomeSetting(const GnomeSetting &) = delete;
     GnomeSetting &operator=(const GnomeSetting &) = delete;
@@ -24,7 +24,8 @@ public:
     QString text() const;
     /// False when the key may not be written. Waits until it is written, so not on the main thread.
     bool setText(const QString &text);
-    /// Calls back on the main thread after each change of a value that has been read since this call.
+    /// Calls back after each change of a value that has been read since this call, on the thread that has
+    /// opened it: only the main thread has a loop that hears of it.
     void observe(std::function<void()> changed);
 
 private:
