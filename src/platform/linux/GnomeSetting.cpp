@@ -42,7 +42,7 @@ bool GnomeSetting::boolean() const
 QString GnomeSetting::text() const
 {
     char *const owned = m_gio.string(m_settings, m_key.constData());
-    const QString text = QString::fromUtf8(owned);
+    QString text = QString::fromUtf8(owned);
     m_gio.free(owned);
     return text;
 }
