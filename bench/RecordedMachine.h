@@ -2,6 +2,7 @@
 
 #include "app/AllWidgets.h"
 #include "fakes/Fakes.h"
+#include "fakes/SwitchFakes.h"
 #include "fixtures/machines.h"
 #include "grid/GridStore.h"
 #include "grid/WidgetCatalog.h"
@@ -13,6 +14,7 @@
 #include "platform/linux/ThermalZones.h"
 #include "sensors/MachinePorts.h"
 #include "sensors/SharedPowerSources.h"
+#include "sensors/SwitchPorts.h"
 #include "sensors/SystemHistoryStore.h"
 #include "sensors/TemperatureService.h"
 
@@ -140,12 +142,18 @@ private:
     TemperatureService m_temperature{{m_smc, m_zones, m_info, m_power, defaults, log, scheduler}};
     SharedPowerSources m_sharedPower{m_power, scheduler};
     MachinePorts m_ports{m_statistics, m_sharedPower, m_info};
+    test::FakeScriptHost m_scripts;
+    test::FakePowerAssertions m_assertions;
+    test::FakeSounds m_sounds;
+    test::FakeAppearance m_appearance;
+    SwitchPorts m_switches{m_scripts, m_assertions, m_sounds, m_appearance};
     WidgetEnvironment m_environment{registry,
                                     grid,
                                     theme,
                                     settings,
                                     ticker,
                                     {{QStringLiteral("machine"), &m_ports},
+                                     {QStringLiteral("switches"), &m_switches},
                                      {QStringLiteral("systemHistory"), &m_history},
                                      {QStringLiteral("temperature"), &m_temperature}}};
 

@@ -39,6 +39,7 @@ private:
     public:
         bool reducesMotion() const override { return true; }
         bool reducesTransparency() const override { return false; }
+        bool isDark() const override { return false; }
         void observeChanges(std::function<void()>) override {}
     };
 

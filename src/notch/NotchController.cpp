@@ -30,6 +30,7 @@ NotchController::NotchController(const Platform &platform, NotchHosting &hosting
     , m_appSettings(platform.defaults)
     , m_updater(platform.defaults)
     , m_sensors(platform)
+    , m_statusMonitor(platform.audio, platform.doNotDisturb, platform.scheduler)
     , m_environment{widgets, m_grid, m_theme, m_appSettings, m_ticker, m_sensors.named()}
     , m_tiles(m_grid)
     , m_gridDrag(m_grid, m_viewModel)

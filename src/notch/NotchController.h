@@ -18,6 +18,7 @@
 #include "platform/Platform.h"
 #include "platform/WorkItem.h"
 #include "sensors/SensorStores.h"
+#include "sensors/SystemStatusMonitor.h"
 #include "theme/Motion.h"
 #include "theme/ThemeStore.h"
 #include "update/UpdateService.h"
@@ -55,6 +56,7 @@ class NotchController : public QObject
     Q_PROPERTY(brimlight::LoginItemService *loginItem READ loginItem CONSTANT)
     Q_PROPERTY(brimlight::UpdateService *updater READ updater CONSTANT)
     Q_PROPERTY(brimlight::TickCoordinator *ticker READ ticker CONSTANT)
+    Q_PROPERTY(brimlight::SystemStatusMonitor *statusMonitor READ statusMonitor CONSTANT)
     Q_PROPERTY(brimlight::GridStore *grid READ grid CONSTANT)
     Q_PROPERTY(brimlight::TileModel *tiles READ tiles CONSTANT)
     Q_PROPERTY(brimlight::GridDrag *gridDrag READ gridDrag CONSTANT)
@@ -108,6 +110,7 @@ public:
     UpdateService *updater() { return &m_updater; }
     TickCoordinator *ticker() { return &m_ticker; }
     SensorStores &sensors() { return m_sensors; }
+    SystemStatusMonitor *statusMonitor() { return &m_statusMonitor; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
     bool isCollapsePending() const { return m_collapseWork.isPending(); }
 
@@ -153,6 +156,7 @@ private:
     AppSettings m_appSettings;
     UpdateService m_updater;
     SensorStores m_sensors;
+    SystemStatusMonitor m_statusMonitor;
     WidgetEnvironment m_environment;
     TileModel m_tiles;
     GridDrag m_gridDrag;

@@ -2,6 +2,7 @@ import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
 import Brimlight.Grid
+import Brimlight.Sensors
 import Brimlight.Notch
 
 // The row at the top of the open panel: title and pages on the left, buttons on the right.
@@ -10,6 +11,7 @@ Item {
 
     required property NotchController controller
     readonly property NotchViewModel viewModel: controller.viewModel
+    readonly property SystemStatusMonitor status: controller.statusMonitor
     readonly property theme colors: controller.theme.current
     readonly property alias galleryButton: add
     readonly property alias settingsButton: gear
@@ -44,6 +46,26 @@ Item {
                 font.bold: true
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
+            }
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.status.isDND
+                name: "moon.fill"
+                size: 10
+                weight: Font.DemiBold
+                color: root.colors.accent
+                Accessible.role: Accessible.Indicator
+                Accessible.name: "Do Not Disturb"
+            }
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.status.isMuted
+                name: "mic.slash.fill"
+                size: 10
+                weight: Font.DemiBold
+                color: root.status.mutedColor
+                Accessible.role: Accessible.Indicator
+                Accessible.name: "Microphone muted"
             }
         }
 

@@ -14,7 +14,9 @@ public:
     virtual bool reducesMotion() const = 0;
     /// What lies behind a surface must not shine through. False while unknown.
     virtual bool reducesTransparency() const = 0;
-    /// Calls back after either has changed, which may be some time after the start, when the desktop has
+    /// Programs are to be dark. False while unknown.
+    virtual bool isDark() const = 0;
+    /// Calls back after any of them has changed, which may be some time after the start, when the desktop has
     /// answered. There is one observer; a new one replaces it, an empty one ends it.
     virtual void observeChanges(std::function<void()> changed) = 0;
 };

@@ -1,17 +1,22 @@
 #pragma once
 
 #include "platform/Appearance.h"
+#include "platform/AudioServer.h"
+#include "platform/DoNotDisturb.h"
 #include "platform/Folders.h"
 #include "platform/HostStatistics.h"
 #include "platform/Log.h"
 #include "platform/LoginItem.h"
 #include "platform/MachineInfo.h"
 #include "platform/Pointer.h"
+#include "platform/PowerAssertions.h"
 #include "platform/PowerSources.h"
 #include "platform/Scheduler.h"
 #include "platform/Screens.h"
+#include "platform/ScriptHost.h"
 #include "platform/SmcTransport.h"
 #include "platform/StatusItem.h"
+#include "platform/SystemSounds.h"
 #include "platform/ThermalServices.h"
 #include "platform/UnixSignals.h"
 #include "platform/UserDefaults.h"
@@ -36,6 +41,11 @@ struct Platform
     ThermalServices &thermal;
     LoginItem &loginItem;
     StatusItem &statusItem;
+    AudioServer &audio;
+    DoNotDisturb &doNotDisturb;
+    ScriptHost &scripts;
+    PowerAssertions &powerAssertions;
+    SystemSounds &sounds;
 };
 
 } // namespace brimlight

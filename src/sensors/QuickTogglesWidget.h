@@ -16,7 +16,12 @@ struct QuickTogglesWidget
                 .defaultSize = WidgetSize::wide,
                 .refresh = RefreshCadence::never()};
     }
-    static WidgetDefinition definition() { return {.metadata = metadata()}; }
+    static WidgetDefinition definition()
+    {
+        return {.metadata = metadata(),
+                .view = QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/QuickTogglesView.qml")),
+                .stores = {QStringLiteral("switches")}};
+    }
 };
 
 } // namespace brimlight

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "sensors/MachinePorts.h"
 #include "sensors/SharedPowerSources.h"
+#include "sensors/SwitchPorts.h"
 #include "sensors/SystemHistoryStore.h"
 #include "sensors/TemperatureService.h"
 
@@ -19,12 +20,14 @@ struct SensorStores
         , temperature({platform.smc, platform.thermal, platform.machine, power, platform.defaults,
                        platform.log, platform.scheduler})
         , machine(platform.statistics, power, platform.machine)
+        , switches(platform.scripts, platform.powerAssertions, platform.sounds, platform.appearance)
     {
     }
 
     QHash<QString, QObject *> named()
     {
         return {{QStringLiteral("machine"), &machine},
+                {QStringLiteral("switches"), &switches},
                 {QStringLiteral("systemHistory"), &history},
                 {QStringLiteral("temperature"), &temperature}};
     }
@@ -33,6 +36,7 @@ struct SensorStores
     SystemHistoryStore history;
     TemperatureService temperature;
     MachinePorts machine;
+    SwitchPorts switches;
 };
 
 } // namespace brimlight

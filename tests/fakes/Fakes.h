@@ -166,6 +166,7 @@ class FakeAppearance : public Appearance
 public:
     bool reducesMotion() const override { return reducedMotion; }
     bool reducesTransparency() const override { return reducedTransparency; }
+    bool isDark() const override { return dark; }
     void observeChanges(std::function<void()> changed) override { notify = std::move(changed); }
 
     /// As the user changes the settings of the desktop.
@@ -179,6 +180,7 @@ public:
 
     bool reducedMotion = false;
     bool reducedTransparency = false;
+    bool dark = false;
     std::function<void()> notify;
 };
 

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 
@@ -175,6 +174,37 @@ TEST_F(DesktopAppearanceTest, FollowsChanges)
     EXPECT_TRUE(appearance.reducesMotion()) << "one of two still asks";
     portal.change(plasma, QStringLiteral("AnimationDurationFactor"), QStringLiteral("1"));
     EXPECT_TRUE(waitFor([&] { return !appearance.reducesMotion(); }));
+}
+
+TEST_F(DesktopAppearanceTest, KnowsWhetherProgramsAreToBeDark)
+{
+    const QString scheme = QStringLiteral("color-scheme");
+    portal.values = {{freedesktop, {{scheme, 1U}}}};
+    portal.appear();
+    EXPECT_FALSE(appearance.isDark()) << "nothing is known at the start";
+    begin();
+    EXPECT_TRUE(waitFor([&] { return appearance.isDark(); }));
+    EXPECT_FALSE(appearance.reducesMotion());
+    for (const uint light : {2U, 0U}) {
+        portal.change(freedesktop, scheme, light);
+        EXPECT_TRUE(waitFor([&] { return !appearance.isDark(); })) << light;
+        portal.change(freedesktop, scheme, 1U);
+        EXPECT_TRUE(waitFor([&] { return appearance.isDark(); }));
+    }
+}
+
+TEST_F(DesktopAppearanceTest, WhatTheProgramHasAskedForHoldsUntilThePortalTells)
+{
+    portal.appear();
+    begin();
+    ASSERT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
+    appearance.setDark(true);
+    EXPECT_TRUE(appearance.isDark()) << "at once";
+    appearance.setDark(false);
+    EXPECT_FALSE(appearance.isDark());
+    appearance.setDark(true);
+    portal.change(freedesktop, QStringLiteral("color-scheme"), 2U);
+    EXPECT_TRUE(waitFor([&] { return !appearance.isDark(); }));
 }
 
 TEST_F(DesktopAppearanceTest, APortalThatComesLaterIsAsked)

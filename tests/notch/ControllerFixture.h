@@ -1,9 +1,11 @@
 #pragma once
 
+#include "fakes/FakeAudioServer.h"
 #include "fakes/FakeHostStatistics.h"
 #include "fakes/FakePowerSources.h"
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
+#include "fakes/SwitchFakes.h"
 #include "grid/WidgetRegistry.h"
 #include "notch/NotchController.h"
 
@@ -109,8 +111,15 @@ protected:
     FakeThermal thermal;
     FakeLoginItem loginItem;
     FakeStatusItem statusItem;
-    Platform platform{scheduler,  defaults, folders, recorded, screens, pointer,   unixSignals, appearance,
-                      statistics, power,    machine, smc,      thermal, loginItem, statusItem};
+    FakeAudioServer audio;
+    FakeDoNotDisturb doNotDisturb;
+    FakeScriptHost scripts;
+    FakePowerAssertions powerAssertions;
+    FakeSounds sounds;
+    Platform platform{scheduler, defaults,     folders,    recorded,        screens,
+                      pointer,   unixSignals,  appearance, statistics,      power,
+                      machine,   smc,          thermal,    loginItem,       statusItem,
+                      audio,     doNotDisturb, scripts,    powerAssertions, sounds};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

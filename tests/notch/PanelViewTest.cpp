@@ -144,6 +144,25 @@ TEST_F(Header, ThePinButtonDoesNotCloseAPanelThatItPins)
     EXPECT_TRUE(model().isPinned());
 }
 
+TEST_F(Header, AMoonAndAMicrophoneTellOfTheMachinesSwitches)
+{
+    const QString moon = QStringLiteral("Do Not Disturb");
+    const QString microphone = QStringLiteral("Microphone muted");
+    start();
+    open();
+    EXPECT_TRUE(scene.withRole(QAccessible::Indicator).isEmpty());
+    doNotDisturb.bannersHidden = true;
+    scheduler.advance(1s);
+    EXPECT_EQ(scene.namesOf(QAccessible::Indicator), QStringList(moon));
+    audio.find(AudioDirection::input, {.volume = 1, .isMuted = true});
+    EXPECT_EQ(scene.namesOf(QAccessible::Indicator), QStringList({moon, microphone}));
+    doNotDisturb.bannersHidden = false;
+    scheduler.advance(1s);
+    EXPECT_EQ(scene.namesOf(QAccessible::Indicator), QStringList(microphone));
+    audio.change(AudioDirection::input, {.volume = 1, .isMuted = false});
+    EXPECT_TRUE(scene.withRole(QAccessible::Indicator).isEmpty());
+}
+
 TEST_F(Walkthrough, HidesTheHeaderAndIsThreeHundredHigh)
 {
     const QStringList header{QStringLiteral("Add widget"), QStringLiteral("Keep open"),

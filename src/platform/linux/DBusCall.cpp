@@ -1,10 +1,9 @@
 #include "platform/linux/DBusCall.h"
 
-#include <QCoreApplication>
+#include "platform/linux/Aside.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QPointer>
-#include <QThreadPool>
 
 namespace brimlight {
 
@@ -13,23 +12,15 @@ QDBusConnection sessionBus()
     return QDBusConnection::sessionBus();
 }
 
+QDBusConnection systemBus()
+{
+    return QDBusConnection::systemBus();
+}
+
 void openBus(QObject &context, std::function<QDBusConnection()> open,
              std::function<void(QDBusConnection)> opened)
 {
-    QThreadPool::globalInstance()->start([application = QCoreApplication::instance(),
-                                          guard = QPointer(&context), open = std::move(open),
-                                          opened = std::move(opened)] {
-        const QDBusConnection bus = open();
-        // Through the application object, which the program keeps until the pool is done, but is no longer
-        // the `instance()` then. The context may go at any time and is looked at on its own thread alone.
-        QMetaObject::invokeMethod(
-            application,
-            [guard, opened, bus] {
-                if (guard)
-                    opened(bus);
-            },
-            Qt::QueuedConnection);
-    });
+    runAside<QDBusConnection>(context, std::move(open), std::move(opened));
 }
 
 void callDBus(const QDBusConnection &bus, const QDBusMessage &call, QObject &context,

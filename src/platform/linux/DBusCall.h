@@ -18,6 +18,9 @@ namespace brimlight {
 /// asked for, so not on the main thread: it is the `open` of `openBus`.
 QDBusConnection sessionBus();
 
+/// The bus of the machine, in the same way.
+QDBusConnection systemBus();
+
 /// Runs `open` on a thread of its own and `opened` on the main thread. A bus that cannot be reached gives a
 /// connection that is not connected.
 void openBus(QObject &context, std::function<QDBusConnection()> open,

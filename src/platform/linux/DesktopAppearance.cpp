@@ -74,6 +74,12 @@ void DesktopAppearance::settingChanged(const QString &group, const QString &key,
     take(wishes);
 }
 
+void DesktopAppearance::setDark(bool dark)
+{
+    settingChanged(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"),
+                   QDBusVariant(dark ? 1U : 0U));
+}
+
 void DesktopAppearance::ownerChanged(const QString &, const QString &, const QString &now)
 {
     if (!now.isEmpty())

@@ -26,7 +26,11 @@ public:
 
     bool reducesMotion() const override { return m_wishes.lessMotion(); }
     bool reducesTransparency() const override { return m_wishes.lessTransparency(); }
+    bool isDark() const override { return m_wishes.dark(); }
     void observeChanges(std::function<void()> changed) override { m_changed = std::move(changed); }
+
+    /// The program itself has asked the desktop for this: it holds until the portal tells of it.
+    void setDark(bool dark);
 
 private:
     Q_SLOT void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);

@@ -3,8 +3,10 @@
 #include "platform/linux/BoundedRead.h"
 #include "platform/linux/DesktopAppearance.h"
 #include "platform/linux/HwmonSmc.h"
+#include "platform/linux/InhibitorAssertions.h"
 #include "platform/linux/JournalLog.h"
 #include "platform/linux/JsonUserDefaults.h"
+#include "platform/linux/LinuxDoNotDisturb.h"
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxMachineInfo.h"
 #include "platform/linux/PipeUnixSignals.h"
@@ -12,6 +14,8 @@
 #include "platform/linux/QtScreens.h"
 #include "platform/linux/StatusNotifierItem.h"
 #include "platform/linux/SysfsPowerSources.h"
+#include "platform/linux/SystemOperations.h"
+#include "platform/linux/ThemeSounds.h"
 #include "platform/linux/ThermalZones.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/X11OverlaySurface.h"
@@ -20,6 +24,7 @@
 #include "platform/linux/XdgFolders.h"
 
 #include <QCoreApplication>
+#include <QThreadPool>
 #include <QWindow>
 
 #include <malloc.h>
@@ -52,6 +57,33 @@ private:
     QWindow &m_window;
 };
 
+/// A machine without an audio server.
+class SilentAudio : public AudioServer
+{
+public:
+    explicit SilentAudio(Scheduler &scheduler)
+        : m_scheduler(scheduler)
+    {
+    }
+
+    std::unique_ptr<AudioWatch> watch(AudioDirection, std::function<void(AudioDeviceState)>,
+                                      std::function<void(AudioDeviceState)>) override
+    {
+        return nullptr;
+    }
+    void outputMuted(QObject &context, std::function<void(std::optional<bool>)> answered) override
+    {
+        m_scheduler.post(context, [answered] { answered(std::nullopt); });
+    }
+    void toggleOutputMuted(QObject &context, std::function<void()> done) override
+    {
+        m_scheduler.post(context, done);
+    }
+
+private:
+    Scheduler &m_scheduler;
+};
+
 } // namespace
 
 struct LinuxPlatform::Backends
@@ -73,6 +105,18 @@ struct LinuxPlatform::Backends
     ThermalZones thermal{sensors};
     XdgAutostart loginItem{folders.autostartFolder(), QCoreApplication::applicationFilePath()};
     StatusNotifierItem statusItem{scheduler};
+    SilentAudio audio{scheduler};
+    LinuxDoNotDisturb doNotDisturb{scheduler};
+    LinuxScriptHost scripts{
+        scheduler,
+        SystemOperations{
+            .audio = audio,
+            .darkModeSet = [this](bool isDark) { appearance.setDark(isDark); },
+            .usesGnomeSettings =
+                !qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QStringLiteral("KDE"))}
+            .table()};
+    InhibitorAssertions powerAssertions;
+    ThemeSounds sounds;
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -92,6 +136,9 @@ struct LinuxPlatform::Backends
 LinuxPlatform::LinuxPlatform()
     : m_backends(std::make_unique<Backends>())
 {
+    // What runs on these threads waits rather than works: one slow file system must not hold up the bus.
+    constexpr int enough = 8;
+    QThreadPool::globalInstance()->setMaxThreadCount(enough);
 }
 
 LinuxPlatform::~LinuxPlatform() = default;
@@ -99,8 +146,10 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,  b.defaults, b.folders, b.log, b.screens, b.pointer,   b.unixSignals, b.appearance,
-            b.statistics, b.power,    b.machine, b.smc, b.thermal, b.loginItem, b.statusItem};
+    return {b.scheduler,       b.defaults,   b.folders,    b.log,   b.screens,      b.pointer,
+            b.unixSignals,     b.appearance, b.statistics, b.power, b.machine,      b.smc,
+            b.thermal,         b.loginItem,  b.statusItem, b.audio, b.doNotDisturb, b.scripts,
+            b.powerAssertions, b.sounds};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

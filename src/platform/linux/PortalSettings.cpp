@@ -6,7 +6,7 @@
 namespace brimlight {
 namespace {
 
-enum class Wish { lessMotion, lessTransparency };
+enum class Wish { lessMotion, lessTransparency, dark };
 
 struct Rule
 {
@@ -44,7 +44,20 @@ constexpr std::array rules{
          [](const QVariant &value) { return isInteger(value, 1); }},
     Rule{"org.gnome.desktop.a11y.interface", "high-contrast", Wish::lessTransparency,
          [](const QVariant &value) { return isBool(value, true); }},
+    Rule{"org.freedesktop.appearance", "color-scheme", Wish::dark,
+         [](const QVariant &value) { return isInteger(value, 1); }},
 };
+
+template<size_t Count>
+bool anyAsks(const std::array<bool, Count> &asked, Wish wish)
+{
+    static_assert(rules.size() == Count);
+    for (size_t i = 0; i < Count; ++i) {
+        if (asked[i] && rules[i].wish == wish)
+            return true;
+    }
+    return false;
+}
 
 /// Some portals wrap a value twice.
 QVariant unwrapped(QVariant value)
@@ -90,7 +103,6 @@ AppearanceWishes AppearanceWishes::of(const PortalValues &values)
 
 void AppearanceWishes::set(const QString &group, const QString &key, const QVariant &value)
 {
-    static_assert(rules.size() == ruleCount);
     for (size_t i = 0; i < ruleCount; ++i) {
         if (group == QLatin1String(rules[i].group) && key == QLatin1String(rules[i].key))
             m_asked[i] = rules[i].asks(unwrapped(value));
@@ -99,20 +111,17 @@ void AppearanceWishes::set(const QString &group, const QString &key, const QVari
 
 bool AppearanceWishes::lessMotion() const
 {
-    for (size_t i = 0; i < ruleCount; ++i) {
-        if (m_asked[i] && rules[i].wish == Wish::lessMotion)
-            return true;
-    }
-    return false;
+    return anyAsks(m_asked, Wish::lessMotion);
 }
 
 bool AppearanceWishes::lessTransparency() const
 {
-    for (size_t i = 0; i < ruleCount; ++i) {
-        if (m_asked[i] && rules[i].wish == Wish::lessTransparency)
-            return true;
-    }
-    return false;
+    return anyAsks(m_asked, Wish::lessTransparency);
+}
+
+bool AppearanceWishes::dark() const
+{
+    return anyAsks(m_asked, Wish::dark);
 }
 
 } // namespace brimlight

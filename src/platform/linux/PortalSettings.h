@@ -29,11 +29,12 @@ public:
 
     bool lessMotion() const;
     bool lessTransparency() const;
+    bool dark() const;
 
     bool operator==(const AppearanceWishes &) const = default;
 
 private:
-    static constexpr size_t ruleCount = 5;
+    static constexpr size_t ruleCount = 6;
     std::array<bool, ruleCount> m_asked{};
 };
 

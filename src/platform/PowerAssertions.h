@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+
+class QObject;
+
+namespace brimlight {
+
+/// Keeps the machine's display awake. Everything that is held ends with the process.
+class PowerAssertions
+{
+public:
+    virtual ~PowerAssertions() = default;
+
+    /// Keeps the display awake until the id is released; `name` tells the user who does. Never waits: the id
+    /// is given at once and is 0 only when nothing can be taken. `failed` is called in a later turn of the
+    /// loop when it turns out that nothing was taken, unless it has been released or `context` is gone.
+    virtual uint32_t create(const QString &name, QObject &context, std::function<void()> failed) = 0;
+    /// An id that is not held, such as 0, is passed over.
+    virtual void release(uint32_t id) = 0;
+};
+
+} // namespace brimlight

@@ -1,0 +1,128 @@
+#include "platform/linux/InhibitorAssertions.h"
+
+#include <QDBusMessage>
+
+namespace brimlight {
+namespace {
+
+const QString screenSaver = QStringLiteral("org.freedesktop.ScreenSaver");
+const QString program = QStringLiteral("Brimlight");
+
+QDBusMessage screenSaverCall(const QString &method)
+{
+    return QDBusMessage::createMethodCall(screenSaver, QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                          screenSaver, method);
+}
+
+} // namespace
+
+InhibitorAssertions::InhibitorAssertions(Open session, Open system)
+    : m_openSession(std::move(session))
+    , m_openSystem(std::move(system))
+{
+}
+
+uint32_t InhibitorAssertions::create(const QString &name, QObject &context, std::function<void()> failed)
+{
+    const uint32_t id = ++m_lastId;
+    m_held.emplace(id, Held{name, &context, std::move(failed), std::nullopt, {}});
+    if (m_session)
+        askScreenSaver(id);
+    else
+        open(id);
+    return id;
+}
+
+void InhibitorAssertions::release(uint32_t id)
+{
+    const auto released = m_held.extract(id);
+    if (released && released.mapped().cookie)
+        uninhibit(*released.mapped().cookie);
+}
+
+void InhibitorAssertions::open(uint32_t id)
+{
+    openBus(*this, m_openSession, [this, id](QDBusConnection bus) {
+        if (!bus.isConnected()) {
+            askLoginManager(id);
+            return;
+        }
+        if (!m_session)
+            bus.connect({}, QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+                        QStringLiteral("NameOwnerChanged"), {screenSaver}, QStringLiteral("sss"), this,
+                        SLOT(ownerChanged(QString, QString, QString)));
+        m_session = bus;
+        askScreenSaver(id);
+    });
+}
+
+void InhibitorAssertions::askScreenSaver(uint32_t id)
+{
+    const auto asking = m_held.find(id);
+    if (asking == m_held.end())
+        return;
+    QDBusMessage call = screenSaverCall(QStringLiteral("Inhibit"));
+    call << program << asking->second.name;
+    callDBus(*m_session, call, *this, [this, id](const std::optional<QVariantList> &reply) {
+        const QVariant cookie = reply.value_or(QVariantList()).value(0);
+        const auto held = m_held.find(id);
+        if (cookie.typeId() != QMetaType::UInt)
+            askLoginManager(id);
+        else if (held == m_held.end() || held->second.cookie)
+            // Released meanwhile, or asked twice because the call itself has started the service.
+            uninhibit(cookie.toUInt());
+        else
+            held->second.cookie = cookie.toUInt();
+    });
+}
+
+void InhibitorAssertions::askLoginManager(uint32_t id)
+{
+    openBus(*this, m_openSystem, [this, id](const QDBusConnection &bus) {
+        const auto asking = m_held.find(id);
+        if (asking == m_held.end())
+            return;
+        if (!bus.isConnected()) {
+            fail(id);
+            return;
+        }
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),
+            QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Inhibit"));
+        call << QStringLiteral("idle") << program << asking->second.name << QStringLiteral("block");
+        callDBus(bus, call, *this, [this, id](const std::optional<QVariantList> &reply) {
+            const auto inhibitor = reply.value_or(QVariantList()).value(0).value<QDBusUnixFileDescriptor>();
+            const auto held = m_held.find(id);
+            if (!inhibitor.isValid())
+                fail(id);
+            else if (held != m_held.end())
+                held->second.inhibitor = inhibitor;
+        });
+    });
+}
+
+void InhibitorAssertions::fail(uint32_t id)
+{
+    const auto failed = m_held.extract(id);
+    if (failed && failed.mapped().context)
+        failed.mapped().failed();
+}
+
+void InhibitorAssertions::uninhibit(uint cookie)
+{
+    QDBusMessage call = screenSaverCall(QStringLiteral("UnInhibit"));
+    call << cookie;
+    m_session->send(call);
+}
+
+void InhibitorAssertions::ownerChanged(const QString &, const QString &, const QString &now)
+{
+    for (auto &[id, held] : m_held) {
+        // Cookies of a service that is gone mean nothing to the next one.
+        held.cookie.reset();
+        if (!now.isEmpty())
+            askScreenSaver(id);
+    }
+}
+
+} // namespace brimlight

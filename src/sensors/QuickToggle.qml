@@ -1,0 +1,70 @@
+import QtQuick
+import Brimlight.Theme
+import Brimlight.Grid
+
+// A round switch with its name below: filled with the accent while it is on.
+AbstractButton {
+    id: root
+
+    required property theme colors
+    // That of the tile.
+    required property string size
+    required property string symbol
+    // The name in short.
+    required property string caption
+    // Whether it stays pressed: a button does not.
+    property bool stays: true
+    property bool on: false
+    readonly property bool lit: hovered || keyed
+
+    height: disc.height + 3 + name.height
+    role: stays ? Accessible.CheckBox : Accessible.Button
+    Accessible.checkable: stays
+    Accessible.checked: on
+    Accessible.onToggleAction: clicked()
+
+    Rectangle {
+        id: disc
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: root.size === "small" ? 34 : root.size === "large" ? 32 : 28
+        height: width
+        radius: width / 2
+        color: root.on ? root.colors.accent : Qt.alpha(root.colors.textPrimary, root.lit ? 0.18 : 0.09)
+        scale: root.pressed && !Motion.reduced ? 0.94 : 1
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Motion.headerHover.duration
+                easing: Motion.headerHover.easing
+            }
+        }
+
+        FocusRing {
+            target: root
+            border.color: root.colors.textPrimary
+        }
+        Symbol {
+            anchors.centerIn: parent
+            name: root.symbol
+            size: disc.width * 0.42
+            color: root.on ? "white" : root.colors.textPrimary
+        }
+    }
+    Text {
+        id: name
+
+        anchors.top: disc.bottom
+        anchors.topMargin: 3
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        text: root.caption
+        color: root.on ? root.colors.textPrimary : root.colors.textSecondary
+        elide: Text.ElideRight
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
+        font.family: Fonts.rounded
+        font.pixelSize: root.size === "small" ? 10 : 9
+        font.weight: Font.Medium
+    }
+}
