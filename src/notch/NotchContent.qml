@@ -34,11 +34,6 @@ Item {
         (InputModality.isKeyboard ? next : root).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    function focusSettings(): void {
-        if (settings.item)
-            (settings.item as ThemeSettingsView).takeFocus();
-    }
-
     opacity: shown ? 1 : 0
     scale: shown ? 1 : 0.95
     transformOrigin: Item.Top
@@ -66,10 +61,10 @@ Item {
                 root.forceActiveFocus();
         }
         function onShowSettingsChanged() {
+            settings.takesFocus = root.viewModel.showSettings && root.shown;
+            settings.giveFocus();
             if (!root.viewModel.showSettings)
                 root.focusAfter(header.settingsButton);
-            else
-                Qt.callLater(root.focusSettings);
         }
         function onOnboardingCompletedChanged() {
             root.focusAfter(header.galleryButton);
@@ -119,6 +114,15 @@ Item {
         readonly property bool wanted: root.viewModel.onboardingCompleted && root.viewModel.showSettings && (root.shown || root.opacity > 0)
         // The panel itself moves while it opens and closes.
         readonly property bool fades: root.opacity === 1
+        // They were asked for, not just shown again with the panel.
+        property bool takesFocus: false
+
+        function giveFocus(): void {
+            if (!takesFocus || !item)
+                return;
+            takesFocus = false;
+            (item as ThemeSettingsView).takeFocus();
+        }
 
         anchors.fill: parent
         anchors.topMargin: root.topInset
@@ -127,6 +131,7 @@ Item {
         scale: active ? 1 : 0.95
         transformOrigin: Item.Top
         enabled: wanted
+        onLoaded: giveFocus()
         sourceComponent: ThemeSettingsView {
             theme: root.controller.theme // qmllint disable unqualified
             settings: root.controller.appSettings // qmllint disable unqualified

@@ -13,11 +13,11 @@ class SettingsChoices : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(brimlight::AppSettings *settings READ settings WRITE setSettings NOTIFY changed REQUIRED)
-    Q_PROPERTY(QStringList languages READ languages CONSTANT)
+    Q_PROPERTY(QList<QString> languages READ languages CONSTANT)
     Q_PROPERTY(int language READ language NOTIFY changed)
-    Q_PROPERTY(QStringList hoverDelays READ hoverDelays NOTIFY changed)
+    Q_PROPERTY(QList<QString> hoverDelays READ hoverDelays NOTIFY changed)
     Q_PROPERTY(int hoverDelay READ hoverDelay NOTIFY changed)
-    Q_PROPERTY(QStringList refreshRates READ refreshRates NOTIFY changed)
+    Q_PROPERTY(QList<QString> refreshRates READ refreshRates NOTIFY changed)
     Q_PROPERTY(int refreshRate READ refreshRate NOTIFY changed)
 
 public:

@@ -15,9 +15,9 @@ class ThemeChoices : public QObject
     Q_PROPERTY(brimlight::ThemeStore *theme READ theme WRITE setTheme NOTIFY changed REQUIRED)
     Q_PROPERTY(int marked READ marked NOTIFY changed)
     Q_PROPERTY(QString strengthText READ strengthText NOTIFY changed)
-    Q_PROPERTY(QStringList colorLabels READ colorLabels CONSTANT)
+    Q_PROPERTY(QList<QString> colorLabels READ colorLabels CONSTANT)
     Q_PROPERTY(QList<QColor> colors READ colors NOTIFY changed)
-    Q_PROPERTY(QStringList colorTexts READ colorTexts NOTIFY changed)
+    Q_PROPERTY(QList<QString> colorTexts READ colorTexts NOTIFY changed)
 
 public:
     using QObject::QObject;
