@@ -100,8 +100,6 @@ TEST_F(NotificationInhibitionTest, IsNotAskedUnlessSomethingHasChanged)
     begin();
     ASSERT_TRUE(waitFor([&] { return service.reads == 1; }));
     service.announce({{QStringLiteral("Other"), true}}, {});
-    for (int second = 0; second < 10; ++second)
-        EXPECT_FALSE(inhibition.isInhibited());
     service.set(true);
     EXPECT_TRUE(waitFor([&] { return inhibition.isInhibited(); }));
     EXPECT_EQ(service.reads, 2) << "signals come in their order, so the first was passed over";
@@ -111,10 +109,7 @@ TEST_F(NotificationInhibitionTest, AServiceThatComesLaterIsAskedAndOneThatGoesIn
 {
     service.inhibited = true;
     begin();
-    ASSERT_TRUE(waitFor([&, name = serviceName] {
-        service.appear();
-        return true;
-    }));
+    service.appear();
     EXPECT_TRUE(waitFor([&] { return inhibition.isInhibited(); }));
     service.vanish();
     EXPECT_TRUE(waitFor([&] { return !inhibition.isInhibited(); }));
