@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/Appearance.h"
+#include "platform/AudioServer.h"
+#include "platform/DisplayBrightness.h"
 #include "platform/Folders.h"
 #include "platform/HostStatistics.h"
 #include "platform/Log.h"
@@ -32,6 +34,8 @@ struct Platform
     MachineInfo &machine;
     SmcTransport &smc;
     ThermalServices &thermal;
+    AudioServer &audio;
+    DisplayBrightness &brightness;
 };
 
 } // namespace brimlight

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fakes/FakeAudioServer.h"
+#include "fakes/FakeDisplayBrightness.h"
 #include "fakes/FakeHostStatistics.h"
 #include "fakes/FakePowerSources.h"
 #include "fakes/Fakes.h"
@@ -107,8 +109,10 @@ protected:
     FakeMachine machine;
     FakeSmc smc;
     FakeThermal thermal;
-    Platform platform{scheduler,  defaults,   folders, recorded, screens, pointer, unixSignals,
-                      appearance, statistics, power,   machine,  smc,     thermal};
+    FakeAudioServer audio;
+    FakeDisplayBrightness brightness;
+    Platform platform{scheduler,  defaults, folders, recorded, screens, pointer, unixSignals, appearance,
+                      statistics, power,    machine, smc,      thermal, audio,   brightness};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/linux/BacklightBrightness.h"
 #include "platform/linux/BoundedRead.h"
 #include "platform/linux/DesktopAppearance.h"
 #include "platform/linux/HwmonSmc.h"
@@ -8,6 +9,7 @@
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxMachineInfo.h"
 #include "platform/linux/PipeUnixSignals.h"
+#include "platform/linux/PulseAudioServer.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/QtScreens.h"
 #include "platform/linux/SysfsPowerSources.h"
@@ -66,6 +68,8 @@ struct LinuxPlatform::Backends
     BoundedRead sensors;
     HwmonSmc smc{sensors};
     ThermalZones thermal{sensors};
+    PulseAudioServer audio{scheduler};
+    BacklightBrightness brightness;
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 
     std::unique_ptr<X11Connection::Listening> watchWorkspace()
@@ -92,8 +96,8 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,  b.defaults,   b.folders, b.log,     b.screens, b.pointer, b.unixSignals,
-            b.appearance, b.statistics, b.power,   b.machine, b.smc,     b.thermal};
+    return {b.scheduler,  b.defaults, b.folders, b.log, b.screens, b.pointer, b.unixSignals, b.appearance,
+            b.statistics, b.power,    b.machine, b.smc, b.thermal, b.audio,   b.brightness};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)
