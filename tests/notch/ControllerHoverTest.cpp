@@ -211,16 +211,17 @@ TEST_F(Hover, MonitorsAndPollExistOnlyWhileExpanded)
     EXPECT_TRUE(pointer.global.empty());
     // The first reading of the temperature.
     scheduler.advance(1s);
-    EXPECT_EQ(scheduler.pendingCount(), 0);
+    EXPECT_EQ(scheduler.pendingCount(), 1) << "the poll of the brightness";
     openByHover();
     EXPECT_EQ(pointer.local.size(), 1u);
     EXPECT_EQ(pointer.global.size(), 1u);
-    EXPECT_EQ(scheduler.repeatingCount(), 3) << "the poll, the tick and the history of the load";
+    EXPECT_EQ(scheduler.repeatingCount(), 4)
+        << "the polls of pointer and brightness, the tick and the history of the load";
     leave();
     scheduler.advance(120ms);
     EXPECT_TRUE(pointer.local.empty());
     EXPECT_TRUE(pointer.global.empty());
-    EXPECT_EQ(scheduler.pendingCount(), 0);
+    EXPECT_EQ(scheduler.pendingCount(), 1);
 }
 
 TEST_F(Hover, AThousandMotionsInOneTurnAreOneEvaluation)
