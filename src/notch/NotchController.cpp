@@ -36,10 +36,14 @@ NotchController::NotchController(const Platform &platform, NotchHosting &hosting
     , m_gridDrag(m_grid, m_viewModel)
     , m_catalog(m_environment)
     , m_pageControls(m_grid, m_viewModel)
+    , m_volumeMonitor(platform.audio)
+    , m_brightnessMonitor(platform.brightness, platform.scheduler)
+    , m_hud(m_viewModel)
     , m_panel(hosting.surface())
     , m_container(hosting.surface())
     , m_hoverWatch(platform.pointer, platform.scheduler, [this] { evaluateHover(); })
 {
+    m_volumeMonitor.setupListener();
     hosting.host(*this);
     wireContainer();
     m_screens.observeChanges([this] { m_scheduler.post(*this, [this] { reposition(); }); });
@@ -92,6 +96,11 @@ void NotchController::subscribe()
     onNextTurn(&m_viewModel, &NotchViewModel::showSettingsChanged, resize);
     onNextTurn(&m_viewModel, &NotchViewModel::hudTypeChanged, resize);
     onNextTurn(&m_viewModel, &NotchViewModel::onboardingCompletedChanged, resize);
+    onNextTurn(&m_volumeMonitor, &SystemVolumeMonitor::volumeChanged,
+               [this] { triggerHUD(HUDType::volume(m_volumeMonitor.volume())); });
+    onNextTurn(&m_brightnessMonitor, &SystemBrightnessMonitor::brightnessChanged,
+               [this] { triggerHUD(HUDType::brightness(m_brightnessMonitor.brightness())); });
+    connect(&m_hud, &HUDFace::changed, this, [this] { m_panel.setHudShown(m_hud.isShown()); });
 }
 
 void NotchController::show()
@@ -116,6 +125,7 @@ void NotchController::setExpanded(bool expanded)
         return;
     }
     m_currentScreen = screen;
+    m_panel.setContentVisible(expanded);
     m_viewModel.setExpanded(expanded);
     if (expanded) {
         m_hoverWatch.start();
@@ -126,7 +136,6 @@ void NotchController::setExpanded(bool expanded)
     m_ticker.setActive(expanded);
     updateHistorySampling();
     const Rect frame = frameFor(expanded, *screen);
-    m_panel.setContentVisible(expanded);
     m_panel.setFrame(frame, true);
     m_log.trace(QStringLiteral("Notch %1 frame=%2")
                     .arg(expanded ? QStringLiteral("EXPANDED") : QStringLiteral("COLLAPSED"),
@@ -266,6 +275,15 @@ void NotchController::leftReleased()
         m_viewModel.setDragging(false);
         evaluateHover();
     });
+}
+
+void NotchController::triggerHUD(const HUDType &type)
+{
+    if (m_viewModel.isExpanded())
+        return;
+    m_hudWorkItem.cancel();
+    m_viewModel.setHudType(type);
+    m_hudWorkItem.schedule(m_scheduler, hudDuration, [this] { m_viewModel.setHudType(std::nullopt); });
 }
 
 void NotchController::reposition()

@@ -9,6 +9,7 @@
 #include "grid/GridStore.h"
 #include "grid/TileModel.h"
 #include "grid/WidgetCatalog.h"
+#include "notch/HUDFace.h"
 #include "notch/HoverWatch.h"
 #include "notch/NotchContainer.h"
 #include "notch/NotchPanel.h"
@@ -18,7 +19,9 @@
 #include "platform/Platform.h"
 #include "platform/WorkItem.h"
 #include "sensors/SensorStores.h"
+#include "sensors/SystemBrightnessMonitor.h"
 #include "sensors/SystemStatusMonitor.h"
+#include "sensors/SystemVolumeMonitor.h"
 #include "theme/Motion.h"
 #include "theme/ThemeStore.h"
 #include "update/UpdateService.h"
@@ -61,6 +64,7 @@ class NotchController : public QObject
     Q_PROPERTY(brimlight::TileModel *tiles READ tiles CONSTANT)
     Q_PROPERTY(brimlight::GridDrag *gridDrag READ gridDrag CONSTANT)
     Q_PROPERTY(brimlight::WidgetCatalog *catalog READ catalog CONSTANT)
+    Q_PROPERTY(brimlight::HUDFace *hud READ hud CONSTANT)
     Q_PROPERTY(brimlight::PageControls *pageControls READ pageControls CONSTANT)
 
 public:
@@ -68,6 +72,8 @@ public:
     static constexpr double hoverMargin = 6.0;
     /// From the moment the pointer is out to the collapse.
     static constexpr std::chrono::milliseconds collapseDelay{120};
+    /// From the last change to the end of the heads-up display.
+    static constexpr std::chrono::milliseconds hudDuration{1500};
 
     NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
                     const WidgetRegistry &widgets);
@@ -104,6 +110,7 @@ public:
     TileModel *tiles() { return &m_tiles; }
     GridDrag *gridDrag() { return &m_gridDrag; }
     WidgetCatalog *catalog() { return &m_catalog; }
+    HUDFace *hud() { return &m_hud; }
     PageControls *pageControls() { return &m_pageControls; }
     AppSettings *appSettings() { return &m_appSettings; }
     LoginItemService *loginItem() { return &m_loginItem; }
@@ -111,6 +118,8 @@ public:
     TickCoordinator *ticker() { return &m_ticker; }
     SensorStores &sensors() { return m_sensors; }
     SystemStatusMonitor *statusMonitor() { return &m_statusMonitor; }
+    const SystemVolumeMonitor &volumeMonitor() const { return m_volumeMonitor; }
+    const SystemBrightnessMonitor &brightnessMonitor() const { return m_brightnessMonitor; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
     bool isCollapsePending() const { return m_collapseWork.isPending(); }
 
@@ -130,6 +139,9 @@ private:
     bool wantsToCollapse() const;
     bool isCursorOverOurUI(double margin) const;
     void leftReleased();
+
+    /// Shows the heads-up display for a while, unless the panel is open.
+    void triggerHUD(const HUDType &type);
 
     void reposition();
     Rect frameFor(bool expanded, const Screen &screen) const;
@@ -162,6 +174,9 @@ private:
     GridDrag m_gridDrag;
     WidgetCatalog m_catalog;
     PageControls m_pageControls;
+    SystemVolumeMonitor m_volumeMonitor;
+    SystemBrightnessMonitor m_brightnessMonitor;
+    HUDFace m_hud;
     NotchPanel m_panel;
     NotchContainer m_container;
     HoverWatch m_hoverWatch;
@@ -169,6 +184,7 @@ private:
     std::optional<Screen> m_currentScreen;
     /// Whether the panel was pinned when the gallery opened.
     bool m_wasPinned = false;
+    WorkItem m_hudWorkItem;
     WorkItem m_collapseWork;
     WorkItem m_expandWork;
     std::unique_ptr<EventMonitor> m_leftRelease;

@@ -10,6 +10,8 @@ namespace brimlight {
 namespace {
 
 constexpr Spring frameSpring = Motion::panelSpring;
+// The corner of an outline that comes closest to a quarter of a circle of 10 points.
+constexpr double hudRadius = 11.7;
 
 double mix(double from, double to, double progress)
 {
@@ -84,8 +86,7 @@ void NotchPanel::setBlursBehind(bool blurs)
 
 QRectF NotchPanel::pane() const
 {
-    return {m_displayed.x - m_extent.x, m_extent.maxY() - m_displayed.maxY(), m_displayed.width,
-            m_displayed.height};
+    return local(m_displayed);
 }
 
 void NotchPanel::finishAnimation()
@@ -128,8 +129,51 @@ void NotchPanel::showPopover(QObject *owner, const QRectF &local)
     if (local.isEmpty())
         removePopover(*owner);
     else
-        setPopoverFrame(*owner, {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(),
-                                 local.width(), local.height()});
+        setPopoverFrame(*owner, logical(local));
+}
+
+void NotchPanel::setHudShown(bool shown)
+{
+    m_hudShown = shown;
+    makeRoomForHud();
+}
+
+QRectF NotchPanel::hudPlace() const
+{
+    return local(placement::hudFrame(m_frame));
+}
+
+void NotchPanel::showHud(const QRectF &local)
+{
+    m_hud = local;
+    updateOutlines();
+    makeRoomForHud();
+}
+
+void NotchPanel::makeRoomForHud()
+{
+    // A panel that is open or about to be has room enough.
+    if (!m_isDrawn && !m_contentVisible)
+        setExtent(restExtent());
+}
+
+Rect NotchPanel::logical(const QRectF &local) const
+{
+    return {m_extent.x + local.x(), m_extent.maxY() - local.y() - local.height(), local.width(),
+            local.height()};
+}
+
+QRectF NotchPanel::local(const Rect &logical) const
+{
+    return {logical.x - m_extent.x, m_extent.maxY() - logical.maxY(), logical.width, logical.height};
+}
+
+Rect NotchPanel::restExtent() const
+{
+    if (!m_hudShown && m_hud.isEmpty())
+        return m_frame;
+    constexpr double extra = placement::hudExtraHeight;
+    return {m_frame.x, m_frame.y - extra, m_frame.width, m_frame.height + extra};
 }
 
 void NotchPanel::step(const Rect &displayed)
@@ -148,7 +192,7 @@ void NotchPanel::settle()
     } else {
         setDrawn(false);
         step(m_frame);
-        setExtent(m_frame);
+        setExtent(restExtent());
     }
 }
 
@@ -158,6 +202,7 @@ void NotchPanel::setExtent(const Rect &extent)
         return;
     m_extent = extent;
     m_surface.setExtent(extent);
+    updateOutlines();
     Q_EMIT paneChanged();
 }
 
@@ -172,16 +217,19 @@ void NotchPanel::setDrawn(bool drawn)
 
 void NotchPanel::updateOutlines()
 {
-    if (!m_isDrawn) {
-        m_surface.setOutlines({});
-        return;
+    std::vector<SurfaceOutline> outlines;
+    if (m_isDrawn) {
+        const double radius = NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius(
+            {0, 0, m_displayed.width, m_displayed.height});
+        outlines.push_back({.frame = m_displayed, .bottomRadius = radius, .blursBehind = m_blursBehind});
+        for (const Rect &popover : m_popovers)
+            outlines.push_back({.frame = popover});
     }
-    const double radius = NotchShape{.bottomRadius = NotchShape::maskRadius}.effectiveRadius(
-        {0, 0, m_displayed.width, m_displayed.height});
-    std::vector<SurfaceOutline> outlines{
-        {.frame = m_displayed, .bottomRadius = radius, .blursBehind = m_blursBehind}};
-    for (const Rect &popover : m_popovers)
-        outlines.push_back({.frame = popover});
+    if (!m_hud.isEmpty())
+        outlines.push_back({.frame = logical(m_hud),
+                            .bottomRadius = hudRadius,
+                            .topRadius = hudRadius,
+                            .takesPointer = false});
     m_surface.setOutlines(outlines);
 }
 

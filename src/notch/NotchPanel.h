@@ -23,6 +23,7 @@ class NotchPanel : public QObject
     Q_PROPERTY(QRectF pane READ pane NOTIFY paneChanged)
     Q_PROPERTY(bool isDrawn READ isDrawn NOTIFY isDrawnChanged)
     Q_PROPERTY(double openHeight READ openHeight NOTIFY paneChanged)
+    Q_PROPERTY(QRectF hudPlace READ hudPlace NOTIFY paneChanged)
     Q_PROPERTY(int backdrop READ backdrop NOTIFY backdropChanged)
 
 public:
@@ -62,6 +63,14 @@ public:
     void removePopover(QObject &owner);
     /// The same for views, in the surface's coordinates; an empty rectangle takes the popover away.
     Q_INVOKABLE void showPopover(QObject *owner, const QRectF &local);
+    /// Room for the heads-up display under the collapsed strip: the surface is grown for it as long as it is
+    /// shown or still seen.
+    void setHudShown(bool shown);
+    /// Where it comes to rest, in the surface's coordinates.
+    QRectF hudPlace() const;
+    /// What is seen of it now, in the surface's coordinates; empty when it has gone. It never takes the
+    /// pointer.
+    Q_INVOKABLE void showHud(const QRectF &local);
     /// True when the point lies within `margin` of the panel or of one of its popovers.
     bool contains(Point point, double margin) const;
 
@@ -71,8 +80,13 @@ Q_SIGNALS:
     void backdropChanged();
 
 private:
+    Rect logical(const QRectF &local) const;
+    QRectF local(const Rect &logical) const;
     void step(const Rect &displayed);
     void settle();
+    void makeRoomForHud();
+    /// What the surface covers while collapsed and at rest.
+    Rect restExtent() const;
     void setExtent(const Rect &extent);
     void setDrawn(bool drawn);
     void updateOutlines();
@@ -87,6 +101,8 @@ private:
     bool m_contentVisible = false;
     bool m_isDrawn = false;
     bool m_blursBehind = true;
+    bool m_hudShown = false;
+    QRectF m_hud;
     QHash<QObject *, Rect> m_popovers;
 };
 

@@ -93,6 +93,29 @@ Item {
         }
     }
 
+    // Made when first shown, then kept.
+    Loader {
+        id: hud
+
+        active: false
+        visible: !root.controller.viewModel.isExpanded
+
+        Connections {
+            target: root.controller.hud
+
+            function onChanged() {
+                hud.active = hud.active || root.controller.hud.isShown;
+            }
+        }
+
+        sourceComponent: NotchHUDView {
+            face: root.controller.hud // qmllint disable unqualified
+            colors: root.colors // qmllint disable unqualified
+            place: root.panel.hudPlace // qmllint disable unqualified
+            onSeenChanged: root.panel.showHud(seen) // qmllint disable unqualified
+        }
+    }
+
     TileMenu {
         id: menu
 

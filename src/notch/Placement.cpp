@@ -43,6 +43,11 @@ Rect frame(bool expanded, double expandedHeight, const NotchGeometry &geometry, 
     return {screen.frame.midX() - width / 2, screen.frame.maxY() - height, width, height};
 }
 
+Rect hudFrame(const Rect &strip)
+{
+    return {strip.x + hudSideGap, strip.y - hudTopGap - hudHeight, strip.width - 2 * hudSideGap, hudHeight};
+}
+
 QString rectString(const Rect &rect)
 {
     const auto whole = [](double value) { return QString::number(static_cast<qint64>(value)); };

@@ -18,6 +18,9 @@ inline constexpr double maximumGridHeight = 600;
 inline constexpr double maximumSettingsHeight = 540;
 inline constexpr double onboardingHeight = 300;
 inline constexpr double hudExtraHeight = 36;
+inline constexpr double hudHeight = 24;
+inline constexpr double hudTopGap = 6;
+inline constexpr double hudSideGap = 16;
 
 /// The first screen with a camera housing, else the main one, else the first, else none.
 std::optional<Screen> chooseScreen(const Screens &screens);
@@ -38,6 +41,9 @@ double expandedHeight(const Content &content, const NotchGeometry &geometry, con
 /// Top centre of the screen, its top edge on the screen's top edge. `expandedHeight` counts only when
 /// expanded.
 Rect frame(bool expanded, double expandedHeight, const NotchGeometry &geometry, const Screen &screen);
+
+/// Where the heads-up display stands under the strip, in logical coordinates.
+Rect hudFrame(const Rect &strip);
 
 /// "(x,y widthxheight)" with each number cut to an integer, for trace lines.
 QString rectString(const Rect &rect);

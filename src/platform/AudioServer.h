@@ -36,10 +36,11 @@ class AudioServer
 public:
     virtual ~AudioServer() = default;
 
-    /// Follows one device: the one that is the default of its direction when the server answers. A default
-    /// chosen later is not followed; a server that comes back is asked for its default anew. `known` is
-    /// called with what the device is found at, `changed` whenever its volume or mute has changed since.
-    /// Neither is called without a server or a device.
+    /// Follows one device: the one that is the default of its direction when the server answers, or the first
+    /// to become it where there is none. A default chosen later is not followed; a server that comes back is
+    /// asked for its default anew. `known` is called with what the device is found at, `changed` whenever its
+    /// volume or mute has changed since. Neither is called without a server or a device. The watch ends
+    /// before the server object does.
     virtual std::unique_ptr<AudioWatch> watch(AudioDirection direction,
                                               std::function<void(AudioDeviceState)> known,
                                               std::function<void(AudioDeviceState)> changed) = 0;

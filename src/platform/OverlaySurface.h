@@ -19,11 +19,12 @@ struct ScrollEvent
     double deltaY = 0;
 };
 
-/// An area with square upper and rounded lower corners, in logical coordinates.
+/// An area with rounded corners, in logical coordinates.
 struct SurfaceOutline
 {
     Rect frame;
     double bottomRadius = 0;
+    double topRadius = 0;
     /// False for what is seen but lets clicks through.
     bool takesPointer = true;
     /// Asks for the desktop behind it to be blurred, where `SurfaceBackdrop::blurred` is on offer.

@@ -2,6 +2,7 @@
 
 #include "platform/Appearance.h"
 #include "platform/AudioServer.h"
+#include "platform/DisplayBrightness.h"
 #include "platform/DoNotDisturb.h"
 #include "platform/Folders.h"
 #include "platform/HostStatistics.h"
@@ -42,6 +43,7 @@ struct Platform
     LoginItem &loginItem;
     StatusItem &statusItem;
     AudioServer &audio;
+    DisplayBrightness &brightness;
     DoNotDisturb &doNotDisturb;
     ScriptHost &scripts;
     PowerAssertions &powerAssertions;

@@ -118,12 +118,16 @@ MotionCurve Motion::compute(Name name)
         return spring(0.3, 0.8);
     case Name::gauge:
         return spring(0.5, 0.8);
+    case Name::hud:
+        return spring(0.25, 0.8);
     case Name::rolling:
         return spring(0.35, 0.85);
     case Name::quickFade:
         return easedOut(120);
     case Name::fade:
         return easedOut(180);
+    case Name::hudFade:
+        return easedOut(200);
     case Name::change:
         return easedOut(250);
     case Name::sweep:

@@ -56,6 +56,20 @@ public:
         }
     }
 
+    /// The default output is found, for the first time or again after a restart.
+    void appear(const AudioDeviceState &state)
+    {
+        output = state;
+        find(AudioDirection::output, state);
+    }
+    void change(const AudioDeviceState &state)
+    {
+        output = state;
+        change(AudioDirection::output, state);
+    }
+    void setVolume(double volume) { change({.volume = volume}); }
+    size_t watchCount() const { return watches.size(); }
+
     struct Watch : AudioWatch
     {
         Watch(FakeAudioServer &server, AudioDirection direction, std::function<void(AudioDeviceState)> known,

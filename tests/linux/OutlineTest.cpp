@@ -41,6 +41,25 @@ TEST(OutlineRows, OnlyTheLowerCornersAreRound)
     EXPECT_FALSE(covers(rows, 105, 195));
 }
 
+TEST(OutlineRows, AllCornersAreRoundWhereAsked)
+{
+    const auto rows =
+        outlineRows({.frame = {100, 200, 100, 24}, .bottomRadius = 10, .topRadius = 10}, extent, 1);
+    for (const int x : {100, 199}) {
+        EXPECT_FALSE(covers(rows, x, 76));
+        EXPECT_FALSE(covers(rows, x, 99));
+        EXPECT_TRUE(covers(rows, x, 88));
+    }
+    for (int column = 100; column < 200; ++column) {
+        for (int row = 0; row < 12; ++row)
+            EXPECT_EQ(covers(rows, column, 76 + row), covers(rows, column, 99 - row)) << column << ' ' << row;
+    }
+    EXPECT_TRUE(covers(rows, 150, 76));
+    EXPECT_TRUE(covers(rows, 150, 99));
+    EXPECT_FALSE(covers(rows, 150, 75));
+    EXPECT_FALSE(covers(rows, 150, 100));
+}
+
 TEST(OutlineRows, CountInPixelsOfTheScreen)
 {
     const auto rows = outlineRows({.frame = {100, 200, 50, 60}}, extent, 2);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fakes/FakeAudioServer.h"
+#include "fakes/FakeDisplayBrightness.h"
 #include "fakes/FakeHostStatistics.h"
 #include "fakes/FakePowerSources.h"
 #include "fakes/Fakes.h"
@@ -112,14 +113,14 @@ protected:
     FakeLoginItem loginItem;
     FakeStatusItem statusItem;
     FakeAudioServer audio;
+    FakeDisplayBrightness brightness;
     FakeDoNotDisturb doNotDisturb;
     FakeScriptHost scripts;
     FakePowerAssertions powerAssertions;
     FakeSounds sounds;
-    Platform platform{scheduler, defaults,     folders,    recorded,        screens,
-                      pointer,   unixSignals,  appearance, statistics,      power,
-                      machine,   smc,          thermal,    loginItem,       statusItem,
-                      audio,     doNotDisturb, scripts,    powerAssertions, sounds};
+    Platform platform{scheduler,  defaults,   folders,    recorded,     screens, pointer,         unixSignals,
+                      appearance, statistics, power,      machine,      smc,     thermal,         loginItem,
+                      statusItem, audio,      brightness, doNotDisturb, scripts, powerAssertions, sounds};
     TraceLog log{recorded, {}};
     FakeHosting hosting;
     const WidgetRegistry widgets{{}};

@@ -211,17 +211,17 @@ TEST_F(Hover, MonitorsAndPollExistOnlyWhileExpanded)
     EXPECT_TRUE(pointer.global.empty());
     // The first reading of the temperature.
     scheduler.advance(1s);
-    EXPECT_EQ(scheduler.pendingCount(), 1) << "Do Not Disturb is looked at always";
+    EXPECT_EQ(scheduler.pendingCount(), 2) << "Do Not Disturb and the brightness are looked at always";
     openByHover();
     EXPECT_EQ(pointer.local.size(), 1u);
     EXPECT_EQ(pointer.global.size(), 1u);
-    EXPECT_EQ(scheduler.repeatingCount(), 4)
-        << "Do Not Disturb, the poll, the tick and the history of the load";
+    EXPECT_EQ(scheduler.repeatingCount(), 5)
+        << "those two, the pointer, the tick and the history of the load";
     leave();
     scheduler.advance(120ms);
     EXPECT_TRUE(pointer.local.empty());
     EXPECT_TRUE(pointer.global.empty());
-    EXPECT_EQ(scheduler.pendingCount(), 1);
+    EXPECT_EQ(scheduler.pendingCount(), 2);
 }
 
 TEST_F(Hover, AThousandMotionsInOneTurnAreOneEvaluation)

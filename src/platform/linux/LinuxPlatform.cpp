@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxPlatform.h"
 
+#include "platform/linux/BacklightBrightness.h"
 #include "platform/linux/BoundedRead.h"
 #include "platform/linux/DesktopAppearance.h"
 #include "platform/linux/HwmonSmc.h"
@@ -10,6 +11,7 @@
 #include "platform/linux/LinuxHostStatistics.h"
 #include "platform/linux/LinuxMachineInfo.h"
 #include "platform/linux/PipeUnixSignals.h"
+#include "platform/linux/PulseAudioServer.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/QtScreens.h"
 #include "platform/linux/StatusNotifierItem.h"
@@ -57,33 +59,6 @@ private:
     QWindow &m_window;
 };
 
-/// A machine without an audio server.
-class SilentAudio : public AudioServer
-{
-public:
-    explicit SilentAudio(Scheduler &scheduler)
-        : m_scheduler(scheduler)
-    {
-    }
-
-    std::unique_ptr<AudioWatch> watch(AudioDirection, std::function<void(AudioDeviceState)>,
-                                      std::function<void(AudioDeviceState)>) override
-    {
-        return nullptr;
-    }
-    void outputMuted(QObject &context, std::function<void(std::optional<bool>)> answered) override
-    {
-        m_scheduler.post(context, [answered] { answered(std::nullopt); });
-    }
-    void toggleOutputMuted(QObject &context, std::function<void()> done) override
-    {
-        m_scheduler.post(context, done);
-    }
-
-private:
-    Scheduler &m_scheduler;
-};
-
 } // namespace
 
 struct LinuxPlatform::Backends
@@ -105,7 +80,8 @@ struct LinuxPlatform::Backends
     ThermalZones thermal{sensors};
     XdgAutostart loginItem{folders.autostartFolder(), QCoreApplication::applicationFilePath()};
     StatusNotifierItem statusItem{scheduler};
-    SilentAudio audio{scheduler};
+    PulseAudioServer audio{scheduler};
+    BacklightBrightness brightness;
     LinuxDoNotDisturb doNotDisturb{scheduler};
     LinuxScriptHost scripts{
         scheduler,
@@ -146,10 +122,10 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,       b.defaults,   b.folders,    b.log,   b.screens,      b.pointer,
-            b.unixSignals,     b.appearance, b.statistics, b.power, b.machine,      b.smc,
-            b.thermal,         b.loginItem,  b.statusItem, b.audio, b.doNotDisturb, b.scripts,
-            b.powerAssertions, b.sounds};
+    return {b.scheduler,   b.defaults,        b.folders,    b.log,   b.screens,    b.pointer,
+            b.unixSignals, b.appearance,      b.statistics, b.power, b.machine,    b.smc,
+            b.thermal,     b.loginItem,       b.statusItem, b.audio, b.brightness, b.doNotDisturb,
+            b.scripts,     b.powerAssertions, b.sounds};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

@@ -49,17 +49,22 @@ std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Re
                                static_cast<uint16_t>(std::max(0.0, right - left - 2 * inset)),
                                static_cast<uint16_t>(height)};
     };
-    const double radius = std::round(pixels(outline.bottomRadius));
-    std::vector<xcb_rectangle_t> rows;
-    if (bottom - radius > top)
-        rows.push_back(row(top, 0, bottom - radius - top));
-    for (double y = std::max(top, bottom - radius); y < bottom; ++y) {
-        // The quadratic corner from (0, 0) by (0, r) to (r, r): at depth d it stands t^2 r in, t = 1 - sqrt(1
-        // - d/r). The upper edge of the row decides, so that no pixel that is drawn in part is cut off.
-        const double depth = y - (bottom - radius);
+    // The quadratic corner from (0, 0) by (0, r) to (r, r): at depth d it stands t^2 r in, t = 1 - sqrt(1 -
+    // d/r). The inner edge of the row decides, so that no pixel that is drawn in part is cut off.
+    const auto inset = [](double depth, double radius) {
         const double t = 1 - std::sqrt(1 - depth / radius);
-        rows.push_back(row(y, std::floor(radius * t * t), 1));
-    }
+        return std::floor(radius * t * t);
+    };
+    const double middle = std::ceil((top + bottom) / 2);
+    const double upper = std::min(std::round(pixels(outline.topRadius)), middle - top);
+    const double lower = std::min(std::round(pixels(outline.bottomRadius)), bottom - top - upper);
+    std::vector<xcb_rectangle_t> rows;
+    for (double depth = upper - 1; depth >= 0; --depth)
+        rows.push_back(row(top + upper - 1 - depth, inset(depth, upper), 1));
+    if (bottom - lower > top + upper)
+        rows.push_back(row(top + upper, 0, bottom - lower - top - upper));
+    for (double depth = 0; depth < lower; ++depth)
+        rows.push_back(row(bottom - lower + depth, inset(depth, lower), 1));
     return rows;
 }
 
@@ -121,8 +126,13 @@ void X11OverlaySurface::setOutlines(const std::vector<SurfaceOutline> &outlines)
     m_outlines = outlines;
     applyShape();
     // Nobody can see what is typed into a surface that shows nothing.
-    if (m_outlines.empty())
+    if (!feelsContent())
         m_keyboard.giveBack();
+}
+
+bool X11OverlaySurface::feelsContent() const
+{
+    return std::ranges::any_of(m_outlines, &SurfaceOutline::takesPointer);
 }
 
 void X11OverlaySurface::setSensor(const Rect &strip)
@@ -234,7 +244,7 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
     // has it.
     if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
         m_keyboard.take();
-    const bool onSensor = event.event == m_sensor.id() || m_outlines.empty();
+    const bool onSensor = event.event == m_sensor.id() || !feelsContent();
     if (onSensor && event.detail == XCB_BUTTON_INDEX_1) {
         if (event.event_type == XCB_INPUT_BUTTON_PRESS) {
             m_pressed = true;
@@ -334,10 +344,10 @@ void X11OverlaySurface::applyShape()
     m_blur.setRegion(blurred);
     // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip
     // itself.
-    if (m_outlines.empty() && (m_connection.isXWayland() || m_dragOver))
+    if (!feelsContent() && (m_connection.isXWayland() || m_dragOver))
         felt = outlineRows({.frame = m_strip}, m_extent, m_window.devicePixelRatio());
-    if (m_outlines.empty() && m_dragOver)
-        drawn = felt;
+    if (!feelsContent() && m_dragOver)
+        drawn.insert(drawn.end(), felt.begin(), felt.end());
     const auto window = static_cast<xcb_window_t>(m_window.winId());
     const auto set = [&](xcb_shape_sk_t kind, const std::vector<xcb_rectangle_t> &rows) {
         xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0, 0,

@@ -53,6 +53,8 @@ private:
     void pointerCame();
     void pointerWent();
     void raise();
+    /// Whether the pointer is taken by anything that is drawn; else the strip feels it.
+    bool feelsContent() const;
     void applyShape();
     void backdropMayHaveChanged();
 

@@ -1,0 +1,342 @@
+#include "platform/linux/PulseAudioServer.h"
+
+#include "fakes/PulseDaemon.h"
+#include "platform/linux/PulseSession.h"
+#include "platform/linux/QtScheduler.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <optional>
+
+namespace brimlight::test {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+bool waitFor(const std::function<bool()> &condition)
+{
+    QEventLoop loop;
+    QTimer guard;
+    bool timedOut = false;
+    QObject::connect(&guard, &QTimer::timeout, [&] { timedOut = true; });
+    guard.start(10s);
+    while (!condition() && !timedOut)
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    return condition();
+}
+
+/// Variables that lead to an audio server, until the end of the test.
+class Environment
+{
+public:
+    Environment()
+    {
+        for (const char *name : names)
+            m_before.append(qgetenv(name));
+        for (const char *name : names)
+            qunsetenv(name);
+    }
+    ~Environment()
+    {
+        for (size_t i = 0; i < std::size(names); ++i) {
+            const QByteArray &value = m_before.at(static_cast<qsizetype>(i));
+            if (value.isNull())
+                qunsetenv(names[i]);
+            else
+                qputenv(names[i], value);
+        }
+    }
+    Environment(const Environment &) = delete;
+    Environment &operator=(const Environment &) = delete;
+
+private:
+    static constexpr const char *names[] = {"XDG_RUNTIME_DIR",    "HOME",         "XDG_CONFIG_HOME",
+                                            "PULSE_RUNTIME_PATH", "PULSE_SERVER", "DISPLAY"};
+    QByteArrayList m_before;
+};
+
+const QString one = QStringLiteral("one");
+const QString two = QStringLiteral("two");
+
+/// A watch on the default output of a real server.
+class PulseAudio : public testing::Test
+{
+protected:
+    PulseAudio()
+    {
+        const QDir folder(m_folder.path());
+        for (const char *name : {"run", "home"}) {
+            folder.mkdir(QLatin1String(name));
+            QFile::setPermissions(folder.filePath(QLatin1String(name)),
+                                  QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.filePath(QStringLiteral("run"))));
+        qputenv("HOME", QFile::encodeName(folder.filePath(QStringLiteral("home"))));
+        daemon.emplace(QProcessEnvironment::systemEnvironment());
+    }
+    ~PulseAudio() override
+    {
+        m_watch.reset();
+        server.reset();
+    }
+
+    void watch()
+    {
+        server.emplace(scheduler);
+        m_watch = server->watch(
+            AudioDirection::output, [this](const AudioDeviceState &state) { known.push_back(state); },
+            [this](const AudioDeviceState &state) { changed.push_back(state); });
+    }
+    /// With both sinks, found at 40 %.
+    void startKnown()
+    {
+        daemon->start({one, two});
+        ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("40%")));
+        watch();
+        ASSERT_TRUE(waitFor([this] { return !known.empty(); }));
+        ASSERT_EQ(known, States{{.volume = 0.4}});
+    }
+    std::optional<bool> askMuted()
+    {
+        QObject context;
+        bool answered = false;
+        std::optional<bool> answer;
+        server->outputMuted(context, [&](std::optional<bool> isMuted) {
+            answered = true;
+            answer = isMuted;
+        });
+        EXPECT_TRUE(waitFor([&] { return answered; }));
+        return answer;
+    }
+    /// Whatever the server had to tell until now has been heard.
+    void catchUp()
+    {
+        for (int i = 0; i < 3; ++i)
+            askMuted();
+    }
+    bool hears(size_t count)
+    {
+        return waitFor([&] { return changed.size() >= count; });
+    }
+
+    using States = std::vector<AudioDeviceState>;
+
+    const Environment environment;
+    const QTemporaryDir m_folder;
+    std::optional<PulseDaemon> daemon;
+    QtScheduler scheduler;
+    std::optional<PulseAudioServer> server;
+    States known;
+    States changed;
+    std::unique_ptr<AudioWatch> m_watch;
+};
+
+} // namespace
+
+TEST_F(PulseAudio, TellsOfEachChangeOfVolumeAndMute)
+{
+    startKnown();
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("45%")));
+    ASSERT_TRUE(hears(1));
+    ASSERT_TRUE(daemon->setMute(one, true));
+    ASSERT_TRUE(hears(2));
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("130%")));
+    ASSERT_TRUE(hears(3));
+    ASSERT_TRUE(daemon->setMute(one, false));
+    ASSERT_TRUE(hears(4));
+    EXPECT_EQ(changed, (States{{.volume = 0.45},
+                               {.volume = 0.45, .isMuted = true},
+                               {.volume = 1.3, .isMuted = true},
+                               {.volume = 1.3}}));
+    EXPECT_EQ(known.size(), 1u);
+}
+
+TEST_F(PulseAudio, ADeviceThatFallsAsleepOrWakesUpHasNotChanged)
+{
+    startKnown();
+    for (const char *asleep : {"1", "0"})
+        ASSERT_TRUE(daemon->run({QStringLiteral("suspend-sink"), one, QLatin1String(asleep)}));
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("40%")));
+    catchUp();
+    EXPECT_TRUE(changed.empty());
+}
+
+TEST_F(PulseAudio, ADefaultChosenLaterIsNotFollowed)
+{
+    startKnown();
+    ASSERT_TRUE(daemon->select(two));
+    ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("70%")));
+    catchUp();
+    EXPECT_TRUE(changed.empty());
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("20%")));
+    ASSERT_TRUE(hears(1));
+    EXPECT_EQ(changed, States{{.volume = 0.2}});
+    EXPECT_EQ(known.size(), 1u);
+}
+
+TEST_F(PulseAudio, ADeviceThatGoesLeavesItsLastValue)
+{
+    startKnown();
+    QString modules;
+    ASSERT_TRUE(
+        daemon->run({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("modules")}, &modules));
+    QString own;
+    for (const QString &line : modules.split(u'\n')) {
+        if (line.contains(QStringLiteral("sink_name=one")))
+            own = line.section(u'\t', 0, 0);
+    }
+    ASSERT_FALSE(own.isEmpty());
+    ASSERT_TRUE(daemon->run({QStringLiteral("unload-module"), own}));
+    ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("70%")));
+    catchUp();
+    EXPECT_TRUE(changed.empty());
+    EXPECT_EQ(known.size(), 1u);
+    EXPECT_EQ(askMuted(), false) << "that of the device that is the default now";
+}
+
+TEST_F(PulseAudio, AServerThatComesLateIsFound)
+{
+    watch();
+    EXPECT_EQ(askMuted(), std::nullopt) << "without a server";
+    // Longer than it is tried for.
+    QElapsedTimer clock;
+    clock.start();
+    const auto later = scheduler.after(4500ms, [] {});
+    EXPECT_TRUE(waitFor([&] { return clock.elapsed() > 4000; }));
+    EXPECT_TRUE(known.empty());
+    daemon->start({one});
+    ASSERT_TRUE(waitFor([this] { return !known.empty(); }));
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("50%")));
+    ASSERT_TRUE(hears(1));
+    EXPECT_EQ(changed.back(), (AudioDeviceState{.volume = 0.5}));
+}
+
+TEST_F(PulseAudio, AServerThatIsKilledAndRestartedIsAskedAnew)
+{
+    startKnown();
+    daemon->kill();
+    EXPECT_EQ(askMuted(), std::nullopt);
+    daemon->start({two});
+    ASSERT_TRUE(waitFor([this] { return known.size() == 2; }));
+    EXPECT_TRUE(changed.empty());
+    ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("30%")));
+    ASSERT_TRUE(hears(1));
+    EXPECT_EQ(changed, States{{.volume = 0.3}});
+}
+
+TEST_F(PulseAudio, AServerThatEndsAndComesBackIsFound)
+{
+    startKnown();
+    daemon->end();
+    EXPECT_EQ(askMuted(), std::nullopt);
+    daemon->start({one});
+    EXPECT_TRUE(waitFor([this] { return known.size() == 2; }));
+}
+
+TEST_F(PulseAudio, AServerWithoutADeviceIsAskedAgainWhenThereIsOne)
+{
+    daemon->start({});
+    watch();
+    EXPECT_EQ(askMuted(), std::nullopt);
+    catchUp();
+    EXPECT_TRUE(known.empty());
+    ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-always-sink")}));
+    catchUp();
+    EXPECT_TRUE(known.empty()) << "a device that is made up";
+    ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
+                             QStringLiteral("sink_name=one")}));
+    ASSERT_TRUE(waitFor([this] { return !known.empty(); }));
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("60%")));
+    ASSERT_TRUE(hears(1));
+    EXPECT_EQ(changed, States{{.volume = 0.6}});
+}
+
+TEST_F(PulseAudio, MutesTheDefaultOutputAndEndsThat)
+{
+    startKnown();
+    ASSERT_TRUE(daemon->select(two));
+    for (const bool expected : {true, false}) {
+        QObject context;
+        bool done = false;
+        server->toggleOutputMuted(context, [&] { done = true; });
+        ASSERT_TRUE(waitFor([&] { return done; }));
+        EXPECT_EQ(askMuted(), expected);
+    }
+}
+
+TEST_F(PulseAudio, TogglingWithoutAServerCallsBack)
+{
+    server.emplace(scheduler);
+    QObject context;
+    bool done = false;
+    server->toggleOutputMuted(context, [&] { done = true; });
+    EXPECT_TRUE(waitFor([&] { return done; }));
+}
+
+TEST_F(PulseAudio, NobodyIsCalledBackWhoHasGone)
+{
+    daemon->start({one});
+    server.emplace(scheduler);
+    bool called = false;
+    {
+        QObject context;
+        server->outputMuted(context, [&](std::optional<bool>) { called = true; });
+    }
+    const auto watch = server->watch(
+        AudioDirection::output, [&](const AudioDeviceState &) { called = true; },
+        [&](const AudioDeviceState &) { called = true; });
+    server->watch(
+        AudioDirection::output, [&](const AudioDeviceState &) { ADD_FAILURE(); },
+        [&](const AudioDeviceState &) { ADD_FAILURE(); });
+    EXPECT_TRUE(waitFor([&] { return called; })) << "the watch that is there";
+    called = false;
+    catchUp();
+    EXPECT_FALSE(called);
+}
+
+TEST_F(PulseAudio, EndingBeforeTheStartIsQuiet)
+{
+    watch();
+    m_watch.reset();
+    server.reset();
+    EXPECT_TRUE(known.empty());
+}
+
+TEST(PulseSocket, LiesWhereClientsLookForIt)
+{
+    const Environment environment;
+    EXPECT_EQ(pulseSocket(), QString());
+    qputenv("XDG_RUNTIME_DIR", "/run/user/1");
+    EXPECT_EQ(pulseSocket(), u"/run/user/1/pulse/native");
+    qputenv("PULSE_RUNTIME_PATH", "/run/own");
+    EXPECT_EQ(pulseSocket(), u"/run/own/native");
+    const std::pair<const char *, QString> servers[] = {
+        {"unix:/tmp/socket", QStringLiteral("/tmp/socket")},
+        {"/tmp/socket", QStringLiteral("/tmp/socket")},
+        {"{0123}unix:/tmp/socket tcp:host", QStringLiteral("/tmp/socket")},
+        {"tcp:host:4713 /tmp/other", QStringLiteral("/tmp/other")},
+        {"tcp:host:4713", QString()},
+        {"host", QString()}};
+    for (const auto &[server, socket] : servers) {
+        qputenv("PULSE_SERVER", server);
+        EXPECT_EQ(pulseSocket(), socket) << server;
+    }
+}
+
+TEST(PulseState, IsTheLoudestChannelOnTheScaleOfTheSliders)
+{
+    pa_cvolume volume;
+    pa_cvolume_set(&volume, 2, PA_VOLUME_NORM * 45 / 100);
+    EXPECT_EQ(pulseState(volume, false), (AudioDeviceState{.volume = 0.45}));
+    volume.values[1] = PA_VOLUME_NORM;
+    EXPECT_EQ(pulseState(volume, true), (AudioDeviceState{.volume = 1, .isMuted = true}));
+}
+
+} // namespace brimlight::test
