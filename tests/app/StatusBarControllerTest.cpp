@@ -79,8 +79,9 @@ TEST_F(StatusBar, ImageIsTheSymbolWithItsDescription)
         for (qsizetype at = 0; at < picture.argb.size(); at += 4) {
             const auto alpha = static_cast<uchar>(picture.argb[at]);
             alphas.insert(alpha);
-            if (alpha == 255)
+            if (alpha == 255) {
                 EXPECT_EQ(picture.argb.sliced(at + 1, 3), QByteArray("\x8a\x8a\x8a", 3)) << side;
+            }
         }
         EXPECT_TRUE(alphas.contains(0)) << side;
         EXPECT_TRUE(alphas.contains(255)) << side;

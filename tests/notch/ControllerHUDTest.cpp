@@ -176,13 +176,13 @@ TEST_F(ControllerHUD, TheLogicalFrameStaysWhileTheSurfaceGrows)
     EXPECT_EQ(surface().extent(), strip) << "nobody has drawn it";
 }
 
-TEST_F(ControllerHUD, ThePollIsTheOnlyPeriodicJobAtRest)
+TEST_F(ControllerHUD, LeavesNothingBehindButThePolls)
 {
     start();
-    EXPECT_EQ(scheduler.repeatingCount(), 1);
+    EXPECT_EQ(scheduler.repeatingCount(), 2) << "of the brightness and of Do Not Disturb";
     setVolume(0.5);
     scheduler.advance(2s);
-    EXPECT_EQ(scheduler.pendingCount(), 1);
+    EXPECT_EQ(scheduler.pendingCount(), 2);
 }
 
 } // namespace brimlight::test
