@@ -3,6 +3,9 @@
 #include <algorithm>
 
 namespace brimlight::onscreen {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Hover : public OnEachDesktop
@@ -113,6 +116,33 @@ TEST_P(Hover, OpensAgainAfterItHasClosed)
     hand.moveTo(away());
     ASSERT_TRUE(waitForClose());
     EXPECT_TRUE(openByRest());
+}
+
+/// A delay that is longer than the collapse takes to be drawn.
+class SlowHover : public Hover
+{
+protected:
+    void SetUp() override
+    {
+        session.writeConfigFile(u"Brimlight/defaults.json"_s,
+                                R"({"brimlight.hoverDelay": 1.5, "brimlight.onboardingCompleted": true})");
+        Hover::SetUp();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(OnScreen, SlowHover, testing::ValuesIn(windowManagers), nameOf);
+
+TEST_P(SlowHover, ComingBackWhileTheCollapseIsDrawnOpensAgain)
+{
+    for (const auto pause : {milliseconds(0), milliseconds(160)}) {
+        ASSERT_TRUE(openByRest());
+        hand.moveTo(away());
+        ASSERT_TRUE(waitForClose());
+        hand.moveTo(onStrip(), pause);
+        EXPECT_TRUE(waitForOpen()) << pause.count();
+        hand.moveTo(away());
+        ASSERT_TRUE(waitForClose());
+    }
 }
 
 } // namespace
