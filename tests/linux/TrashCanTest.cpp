@@ -34,10 +34,7 @@ protected:
                .mounts = path(QStringLiteral("mountinfo")),
                .user = geteuid()};
     }
-    void TearDown() override
-    {
-        EXPECT_EQ(seteuid(m_before), 0);
-    }
+    void TearDown() override { EXPECT_EQ(seteuid(m_before), 0); }
 
     QByteArray path(const QString &name) const { return folder.filePath(name).toLocal8Bit(); }
     void make(const QString &name) { ASSERT_TRUE(QDir(folder.path()).mkpath(name)); }
