@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 
@@ -22,7 +23,7 @@ const QString animations = QStringLiteral("enable-animations");
 const QString contrast = QStringLiteral("contrast");
 const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
 
-class FakePortal : public QObject
+class FakePortal : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
@@ -46,11 +47,13 @@ public:
 
     PortalValues values;
     QStringList asked;
+    bool answers = true;
 
 public Q_SLOTS:
     Q_SCRIPTABLE PortalValues ReadAll(const QStringList &groups) // NOLINT(readability-identifier-naming)
     {
         asked = groups;
+        setDelayedReply(!answers);
         return values;
     }
 
@@ -205,6 +208,17 @@ TEST_F(DesktopAppearanceTest, WhatTheProgramHasAskedForHoldsUntilThePortalTells)
     appearance.setDark(true);
     portal.change(freedesktop, QStringLiteral("color-scheme"), 2U);
     EXPECT_TRUE(waitFor([&] { return !appearance.isDark(); }));
+}
+
+TEST_F(DesktopAppearanceTest, APortalThatNeverAnswersHoldsNothingUp)
+{
+    portal.answers = false;
+    portal.appear();
+    begin();
+    ASSERT_TRUE(waitFor([&] { return !portal.asked.isEmpty(); }));
+    EXPECT_FALSE(appearance.reducesMotion());
+    portal.change(gnome, animations, false);
+    EXPECT_TRUE(waitFor([&] { return appearance.reducesMotion(); })) << "what it tells by itself is heard";
 }
 
 TEST_F(DesktopAppearanceTest, APortalThatComesLaterIsAsked)

@@ -119,6 +119,7 @@ TEST_F(StatusNotifierItemTest, OffersItsPictureInEverySizeAndDrawsItOnce)
         EXPECT_EQ(argb, QByteArray(4 * width * height, '\x7f'));
         sides.append(width);
     }
+    pixmaps.endArray();
     EXPECT_EQ(sides, (QList<int>{16, 22, 24, 32, 44, 48}));
     EXPECT_EQ(drawn, 6);
 }
