@@ -11,14 +11,14 @@ namespace brimlight {
 /// How long a change takes, along which curve and in which steps.
 struct GaugeMotion
 {
-    /// What moves at every tick, all day, and only by a little, is smooth enough at half the rate of the
-    /// screen.
+    /// Between two steps of what moves at every tick, all day, and only by a little: half the rate of the
+    /// screen is smooth enough for it.
     static constexpr std::chrono::milliseconds calm{30};
 
     std::chrono::milliseconds duration;
     QEasingCurve easing;
-    /// At least this much between two steps.
-    std::chrono::milliseconds step{0};
+    /// Steps every `calm`; at every frame of the screen otherwise.
+    bool isCalm = false;
 
     /// Ends where the eye sees no more of it, a hundredth from the goal: what moves at every tick must not
     /// keep the renderer busy with a tail of equal frames.
@@ -26,7 +26,7 @@ struct GaugeMotion
     {
         constexpr double unseen = 0.01;
         const Spring spring(response, dampingFraction);
-        return {spring.settlingTime(unseen), spring.easing(unseen), calm};
+        return {spring.settlingTime(unseen), spring.easing(unseen), true};
     }
 
     /// A ring following its value.
@@ -36,7 +36,7 @@ struct GaugeMotion
     /// A line taking new samples.
     static GaugeMotion samplesChange()
     {
-        return {std::chrono::milliseconds(250), QEasingCurve::OutQuad, calm};
+        return {std::chrono::milliseconds(250), QEasingCurve::OutQuad, true};
     }
     /// The digits of a clock.
     static GaugeMotion roll() { return spring(std::chrono::duration<double>(0.35), 0.85); }

@@ -19,7 +19,7 @@ constexpr double glowRadius = 2.5;
 /// Beyond this the glow is below what eight bits can tell.
 constexpr double glowReach = 2.4 * glowRadius;
 /// In points along the ring.
-constexpr double unseenMove = 1;
+constexpr double unseenMove = 1.5;
 constexpr double unseenRest = 0.25;
 
 QColor faded(QColor color, double opacity)
@@ -98,7 +98,7 @@ void RingGauge::setLineWidth(double width)
     if (width == m_lineWidth)
         return;
     m_lineWidth = width;
-    m_glowRing = m_glowCap = {};
+    m_trackRing = m_glowRing = m_glowCap = {};
     Q_EMIT lineWidthChanged();
     fitCanvas();
 }
@@ -118,6 +118,7 @@ void RingGauge::setTrack(const QColor &track)
     if (track == m_track)
         return;
     m_track = track;
+    m_trackRing = {};
     Q_EMIT trackChanged();
     redraw();
 }
@@ -180,13 +181,27 @@ void RingGauge::draw(QPainter &painter, double devicePixelRatio)
     if (circle().isEmpty() || m_lineWidth <= 0)
         return;
     m_drawn = m_progress.value();
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(m_track, m_lineWidth));
-    painter.drawEllipse(circle());
+    drawTrack(painter, devicePixelRatio);
 
     const double turn = ringProgress(m_progress.value());
     drawGlow(painter, turn, devicePixelRatio);
     drawArc(painter, turn, devicePixelRatio);
+}
+
+void RingGauge::drawTrack(QPainter &painter, double devicePixelRatio)
+{
+    const QPointF origin(-overhang(), -overhang());
+    const QSizeF points = size() + QSizeF(2 * overhang(), 2 * overhang());
+    if (m_trackRing.size() != (points * devicePixelRatio).toSize() ||
+        m_trackRing.devicePixelRatio() != devicePixelRatio) {
+        m_trackRing = transparentImage(points, devicePixelRatio);
+        QPainter ring(&m_trackRing);
+        ring.setRenderHint(QPainter::Antialiasing);
+        ring.translate(-origin);
+        ring.setPen(QPen(m_track, m_lineWidth));
+        ring.drawEllipse(circle());
+    }
+    painter.drawImage(origin, m_trackRing);
 }
 
 /// The colour along the arc. Gradients run counter-clockwise, so the stops stand in reverse; the seam lies

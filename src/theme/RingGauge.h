@@ -78,6 +78,7 @@ private:
     /// The angle in degrees by which a round cap stands out of the arc's end.
     double capDegrees() const;
     QBrush arcBrush() const;
+    void drawTrack(QPainter &painter, double devicePixelRatio);
     void drawArc(QPainter &painter, double turn, double devicePixelRatio);
     void drawGlow(QPainter &painter, double turn, double devicePixelRatio);
     QImage glowOfRing(double devicePixelRatio) const;
@@ -91,7 +92,9 @@ private:
     GaugeProgress m_progress;
     /// The progress that the picture shows.
     double m_drawn = 0;
-    /// The glow of the whole ring and of one round end; made when first needed for a size and a colour.
+    /// The full ring below the arc, the glow of the whole arc and of one round end; made when first needed
+    /// for a size and a colour.
+    QImage m_trackRing;
     QImage m_glowRing;
     QImage m_glowCap;
 };

@@ -14,7 +14,7 @@ constexpr double lineWidth = 1.5;
 constexpr double topOpacity = 0.35;
 constexpr double bottomOpacity = 0.02;
 /// In points.
-constexpr double unseenMove = 1;
+constexpr double unseenMove = 1.5;
 
 QColor faded(QColor color, double opacity)
 {
