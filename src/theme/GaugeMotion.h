@@ -13,7 +13,7 @@ struct GaugeMotion
 {
     /// Between two steps of what moves at every tick, all day, and only by a little: half the rate of the
     /// screen is smooth enough for it.
-    static constexpr std::chrono::milliseconds calm{30};
+    static constexpr std::chrono::milliseconds calm{33};
 
     std::chrono::milliseconds duration;
     QEasingCurve easing;

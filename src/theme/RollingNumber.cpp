@@ -77,7 +77,9 @@ RollingNumber::RollingNumber(QQuickItem *parent)
 
 void RollingNumber::setText(const QString &text)
 {
-    const bool roll = animates() && text != m_text && !m_text.isEmpty();
+    if (text == m_text)
+        return;
+    const bool roll = animates() && !m_text.isEmpty();
     m_text = text;
     if (roll)
         m_before = m_cells;
@@ -91,6 +93,8 @@ void RollingNumber::setText(const QString &text)
 
 void RollingNumber::setFont(const QFont &font)
 {
+    if (font == m_font)
+        return;
     m_font = font;
     m_roll.finish();
     layOut();
@@ -99,6 +103,8 @@ void RollingNumber::setFont(const QFont &font)
 
 void RollingNumber::setColor(const QColor &color)
 {
+    if (color == m_color)
+        return;
     m_color = color;
     Q_EMIT colorChanged();
     redraw();
@@ -106,6 +112,8 @@ void RollingNumber::setColor(const QColor &color)
 
 void RollingNumber::setGradientEnd(const QColor &color)
 {
+    if (color == m_gradientEnd)
+        return;
     m_gradientEnd = color;
     Q_EMIT gradientEndChanged();
     redraw();
@@ -113,6 +121,8 @@ void RollingNumber::setGradientEnd(const QColor &color)
 
 void RollingNumber::setHorizontalAlignment(int alignment)
 {
+    if (alignment == m_alignment)
+        return;
     m_alignment = alignment;
     Q_EMIT horizontalAlignmentChanged();
     redraw();

@@ -182,9 +182,9 @@ TEST_F(Gauge, RingFollowsInStepsOfTwoFrames)
     m_time.advanceBy(450ms);
     ring.setValue(0.6);
     m_time.advanceBy(0ms);
-    m_time.advanceBy(16ms);
+    m_time.advanceBy(17ms);
     EXPECT_EQ(ring.progress(), 0.2);
-    m_time.advanceBy(16ms);
+    m_time.advanceBy(17ms);
     EXPECT_GT(ring.progress(), 0.2);
 }
 
