@@ -6,6 +6,7 @@
 
 #include "RecordedMachine.h"
 #include "app/WidgetRenderer.h"
+#include "grid/GridMetrics.h"
 #include "theme/Fonts.h"
 
 #include <QGuiApplication>
@@ -24,6 +25,9 @@ namespace {
 
 constexpr double scale = WidgetRenderer::scale;
 constexpr double margin = 20;
+/// Around each tile, for its shadow.
+constexpr double tileMargin = 12;
+constexpr QColor background(10, 15, 28);
 constexpr double labelHeight = 16;
 constexpr double columnWidth = 600;
 constexpr double rowGap = 8;
@@ -103,7 +107,7 @@ std::vector<Tile> placed(const QList<WidgetSize> &sizes)
     QPointF at;
     double below = 0;
     for (const WidgetSize size : sizes) {
-        const QSizeF picture = WidgetRenderer::pictureSize(size);
+        const QSizeF picture = gridMetrics::rectangle(size) + QSizeF(2 * tileMargin, 2 * tileMargin);
         if (at.x() + picture.width() > columnWidth)
             at = {0, below};
         tiles.push_back({size, QRectF(at + QPointF(0, labelHeight), picture)});
@@ -210,8 +214,8 @@ QImage reduced(const QImage &image)
 bool drawMachine(QPainter &painter, double left, const State &state)
 {
     RecordedMachine machine(state.fare);
-    WidgetRenderer renderer(machine.catalog, machine.theme);
-    drawLabel(painter, {left + WidgetRenderer::margin, margin + 14}, state.title, 15, Qt::white);
+    WidgetRenderer renderer(machine.catalog, machine.theme, {.margin = tileMargin, .color = background});
+    drawLabel(painter, {left + tileMargin, margin + 14}, state.title, 15, Qt::white);
     double top = margin + 24;
     for (const QString &kind : kinds) {
         const std::vector<Tile> tiles = placed(machine.registry.definition(kind)->metadata.allowedSizes);
@@ -224,7 +228,7 @@ bool drawMachine(QPainter &painter, double left, const State &state)
                 return false;
             const QPointF at = tile.place.topLeft() + QPointF(left, top);
             painter.drawImage(at, image);
-            drawLabel(painter, at + QPointF(WidgetRenderer::margin + 2, 4),
+            drawLabel(painter, at + QPointF(tileMargin + 2, 4),
                       kind + QStringLiteral(" · ") + rawValue(tile.size), 9, QColor(140, 150, 170));
         }
         top += heightOf(tiles) + rowGap;
@@ -242,7 +246,7 @@ bool draw(const QString &file)
     const QSizeF size(2 * margin + columnWidth * static_cast<double>(all.size()), height);
     QImage sheet((size * scale).toSize(), QImage::Format_RGB32);
     sheet.setDevicePixelRatio(scale);
-    sheet.fill(WidgetRenderer::background);
+    sheet.fill(background);
     QPainter painter(&sheet);
     double left = margin;
     for (const State &state : all) {

@@ -44,6 +44,7 @@ Outcome renderAll(const QString &folder)
     TickCoordinator ticker(ports.scheduler, log);
     SensorStores sensors(ports);
     sensors.history.setActive(true);
+    sensors.temperature.refresh();
     const WidgetEnvironment environment{registry, grid, theme, settings, ticker, sensors.named()};
     WidgetCatalog catalog(environment);
     WidgetRenderer renderer(catalog, theme);

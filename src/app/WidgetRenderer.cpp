@@ -10,24 +10,26 @@
 namespace brimlight {
 
 WidgetRenderer::WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme)
+    : WidgetRenderer(catalog, theme, Surroundings{})
+{
+}
+
+WidgetRenderer::WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme, const Surroundings &surroundings)
     : m_catalog(catalog)
     , m_theme(theme)
+    , m_margin(surroundings.margin)
 {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    m_window.setColor(background);
+    m_window.setColor(surroundings.color);
     m_motion.installOn(m_engine);
 }
 
 WidgetRenderer::~WidgetRenderer() = default;
 
-QSizeF WidgetRenderer::pictureSize(WidgetSize size)
-{
-    return gridMetrics::rectangle(size) + QSizeF(2 * margin, 2 * margin);
-}
-
 QImage WidgetRenderer::render(const QString &kind, WidgetSize size, const std::function<void()> &live)
 {
-    const QSizeF whole = pictureSize(size);
+    const QSizeF tile = gridMetrics::rectangle(size);
+    const QSizeF whole = tile + QSizeF(2 * m_margin, 2 * m_margin);
     QQmlComponent &component =
         m_catalog.component(m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Grid/RenderedTile.qml")));
     const std::unique_ptr<QObject> made(
@@ -40,8 +42,10 @@ QImage WidgetRenderer::render(const QString &kind, WidgetSize size, const std::f
         qWarning("%s", qPrintable(component.errorString()));
         return {};
     }
-    item->setSize(gridMetrics::rectangle(size));
-    item->setPosition({margin, margin});
+    if (item->property("isBroken").toBool())
+        return {};
+    item->setSize(tile);
+    item->setPosition({m_margin, m_margin});
     item->setParentItem(m_window.contentItem());
     m_window.setGeometry(0, 0, static_cast<int>(whole.width()), static_cast<int>(whole.height()));
     m_window.contentItem()->setSize(whole);

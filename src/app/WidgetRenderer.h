@@ -19,15 +19,19 @@ class WidgetRenderer
 {
 public:
     static constexpr double scale = 2;
-    /// Room around the tile for its shadow, in points.
-    static constexpr double margin = 12;
-    static constexpr QColor background{10, 15, 28};
+
+    /// What a picture shows beside the tile: nothing at first.
+    struct Surroundings
+    {
+        /// Points around the tile.
+        double margin = 0;
+        QColor color = Qt::transparent;
+    };
 
     WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme);
+    WidgetRenderer(WidgetCatalog &catalog, ThemeStore &theme, const Surroundings &surroundings);
     ~WidgetRenderer();
 
-    /// The tile with its margins, in points.
-    static QSizeF pictureSize(WidgetSize size);
     /// Null when the view cannot be drawn. `live` runs between the view's appearance and its drawing.
     QImage render(
         const QString &kind, WidgetSize size, const std::function<void()> &live = [] {});
@@ -45,6 +49,7 @@ private:
 
     WidgetCatalog &m_catalog;
     ThemeStore &m_theme;
+    double m_margin;
     Still m_still;
     QQmlEngine m_engine;
     Motion m_motion{&m_still};

@@ -12,134 +12,184 @@ AbstractButton {
     required property galleryEntry entry
     required property bool live
     readonly property bool lit: hovered || keyed
-    readonly property bool lifted: lit && !Motion.reduced
+    // From 0 at rest to 1 under the pointer.
+    property real light: lit ? 1 : 0
+    property real pressScale: pressed && !Motion.reduced ? 0.95 : 1
+    readonly property real lift: Motion.reduced ? 0 : light
+
+    function between(rest: real, hover: real): real {
+        return rest + (hover - rest) * Math.max(0, Math.min(1, light));
+    }
 
     label: entry.name
     // The view around the cards is reached by Tab, a card by arrows.
     activeFocusOnTab: false
-    scale: pressed && !Motion.reduced ? 0.95 : lifted ? 1.025 : 1
-    transform: Translate {
-        y: root.lifted ? -1 : 0
-    }
+    implicitHeight: content.implicitHeight + 14
+    scale: 1 + 0.025 * lift
+    transform: [
+        Scale {
+            origin.x: root.width / 2
+            origin.y: root.height / 2
+            xScale: root.pressScale
+            yScale: root.pressScale
+        },
+        Translate {
+            y: -root.lift
+        }
+    ]
     Accessible.description: entry.sizes
 
-    Behavior on scale {
+    Behavior on light {
         NumberAnimation {
             duration: Motion.cardHover.duration
             easing: Motion.cardHover.easing
         }
     }
+    Behavior on pressScale {
+        NumberAnimation {
+            duration: Motion.press.duration
+            easing: Motion.press.easing
+        }
+    }
 
+    DropShadow {
+        width: parent.width
+        height: parent.height
+        y: 2
+        visible: opacity > 0
+        opacity: root.between(1, 0)
+        color: Qt.alpha(root.theme.current.accent, 0.02)
+        corner: 16
+        radius: 4
+    }
+    DropShadow {
+        width: parent.width
+        height: parent.height
+        y: 5
+        visible: opacity > 0
+        opacity: root.between(0, 1)
+        color: Qt.alpha(root.theme.current.accent, 0.1)
+        corner: 16
+        radius: 10
+    }
     Rectangle {
         anchors.fill: parent
         radius: 16
         color: root.theme.current.surfaceElevated
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, root.lit ? 0.12 : 0.06)
     }
     Rectangle {
         anchors.fill: parent
         radius: 16
+        border.color: Qt.rgba(1, 1, 1, root.between(0.06, 0.12))
         gradient: Gradient {
             GradientStop {
                 position: 0
-                color: Qt.rgba(1, 1, 1, root.lit ? 0.1 : 0.045)
+                color: Qt.rgba(1, 1, 1, root.between(0.045, 0.1))
             }
             GradientStop {
                 position: 1
-                color: Qt.alpha(root.theme.current.accent, root.lit ? 0.1 : 0.03)
+                color: Qt.alpha(root.theme.current.accent, root.between(0.03, 0.1))
             }
         }
     }
 
-    Item {
-        id: area
+    Column {
+        id: content
 
         x: 7
         y: 7
         width: parent.width - 14
-        height: 84
-        clip: true
+        spacing: 7
 
         Item {
-            anchors.centerIn: parent
-            width: root.entry.naturalSize.width
-            height: root.entry.naturalSize.height
-            scale: Math.min(1, area.width / width, area.height / height)
+            id: area
 
-            GlassTileBackground {
-                anchors.fill: parent
-                theme: root.theme.current
-                strength: root.theme.glassStrength
-                reduceTransparency: Motion.opaque
+            width: parent.width
+            height: 84
+            clip: true
+
+            Item {
+                anchors.centerIn: parent
+                width: root.entry.naturalSize.width
+                height: root.entry.naturalSize.height
+                scale: Math.min(1, area.width / width, area.height / height)
+
+                GlassTileBackground {
+                    anchors.fill: parent
+                    theme: root.theme.current
+                    strength: root.theme.glassStrength
+                    reduceTransparency: Motion.opaque
+                }
+                WidgetHost {
+                    id: preview
+
+                    anchors.fill: parent
+                    anchors.margins: 8
+                    catalog: root.catalog
+                    kind: root.entry.kind
+                    size: root.entry.previewSize
+                    live: root.live
+                    enabled: false
+
+                    Symbol {
+                        anchors.centerIn: parent
+                        visible: !preview.hasView
+                        name: root.entry.symbol
+                        size: 26
+                        color: root.theme.current.textSecondary
+                    }
+                }
             }
-            WidgetHost {
-                id: preview
 
-                anchors.fill: parent
-                anchors.margins: 8
-                catalog: root.catalog
-                kind: root.entry.kind
-                size: root.entry.previewSize
-                live: root.live
-                enabled: false
+            Rectangle {
+                anchors.right: parent.right
+                anchors.top: parent.top
+                width: chip.width + 10
+                height: chip.height + 4
+                radius: height / 2
+                color: Qt.rgba(0, 0, 0, 0.28)
 
-                Symbol {
+                Text {
+                    id: chip
+
                     anchors.centerIn: parent
-                    visible: !preview.hasView
-                    name: root.entry.symbol
-                    size: 26
-                    color: root.theme.current.textSecondary
+                    text: root.entry.chip
+                    color: root.theme.current.textPrimary
+                    opacity: 0.82
+                    font.family: Fonts.rounded
+                    font.pixelSize: 9
+                    font.bold: true
                 }
             }
         }
-    }
-    Rectangle {
-        anchors.right: area.right
-        anchors.top: area.top
-        width: chip.width + 10
-        height: chip.height + 4
-        radius: height / 2
-        color: Qt.rgba(0, 0, 0, 0.28)
+        Row {
+            height: 14
+            spacing: 6
 
-        Text {
-            id: chip
-
-            anchors.centerIn: parent
-            text: root.entry.chip
-            color: root.theme.current.textPrimary
-            opacity: 0.82
-            font.family: Fonts.rounded
-            font.pixelSize: 9
-            font.bold: true
-        }
-    }
-    Row {
-        x: 9
-        y: 98
-        spacing: 6
-
-        Symbol {
-            anchors.verticalCenter: parent.verticalCenter
-            name: root.entry.symbol
-            size: 10
-            color: root.theme.current.accent
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: root.entry.symbol
+                size: 10
+                weight: Font.DemiBold
+                color: root.theme.current.accent
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.entry.name
+                color: root.theme.current.textPrimary
+                font.family: Fonts.rounded
+                font.pixelSize: 11
+                font.weight: Font.DemiBold
+            }
         }
         Text {
-            text: root.entry.name
-            color: root.theme.current.textPrimary
+            height: 10
+            verticalAlignment: Text.AlignVCenter
+            text: root.entry.sizes
+            color: root.theme.current.textSecondary
             font.family: Fonts.rounded
-            font.pixelSize: 11
-            font.weight: Font.DemiBold
+            font.pixelSize: 8
         }
-    }
-    Text {
-        x: 9
-        y: 117
-        text: root.entry.sizes
-        color: root.theme.current.textSecondary
-        font.family: Fonts.rounded
-        font.pixelSize: 8
     }
 
     FocusRing {

@@ -11,6 +11,8 @@ Item {
     required property ThemeStore theme
     required property string kind
     required property string size
+    // The kind has a view that cannot be made.
+    readonly property bool isBroken: front.isBroken
 
     GlassTileBackground {
         anchors.fill: parent

@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
 
 namespace brimlight {
@@ -16,8 +17,11 @@ QList<TileModel::Tile> TileModel::placed(const GridLayout &layout)
 {
     QList<Tile> tiles;
     QSet<QUuid> seen;
+    // A view counts pages in 32 bits; nobody can turn to those beyond.
+    constexpr qint64 lastPage = std::numeric_limits<int>::max();
     for (const WidgetInstance &instance : layout.instances) {
-        if (instance.isPlaced() && instance.page >= 0 && !seen.contains(instance.id)) {
+        if (instance.isPlaced() && instance.page >= 0 && instance.page <= lastPage &&
+            !seen.contains(instance.id)) {
             seen.insert(instance.id);
             tiles.append({instance});
         }

@@ -23,18 +23,25 @@ Item {
     Accessible.name: "Add a widget"
     Keys.onEscapePressed: closed()
 
+    DropShadow {
+        anchors.fill: parent
+        anchors.topMargin: 12
+        anchors.bottomMargin: -12
+        color: Qt.rgba(0, 0, 0, 0.45)
+        corner: 22
+        radius: 28
+    }
     Rectangle {
         anchors.fill: parent
         radius: 22
-        color: Qt.rgba(root.theme.current.surface.r, root.theme.current.surface.g, root.theme.current.surface.b, 1)
-        border.color: Qt.rgba(1, 1, 1, 0.08)
+        color: root.theme.current.surface
     }
     Tap {}
 
     Text {
         id: heading
 
-        x: 20
+        x: 32
         y: 16
         text: "Add a widget"
         color: root.theme.current.textPrimary
@@ -45,8 +52,12 @@ Item {
         Accessible.name: text
     }
     IconButton {
+        id: close
+
+        // Its tool tip lies over the cards.
+        z: 1
         anchors.right: parent.right
-        anchors.rightMargin: 16
+        anchors.rightMargin: 29
         anchors.verticalCenter: heading.verticalCenter
         width: 22
         height: 22
@@ -55,17 +66,29 @@ Item {
         label: qsTr("Close")
         color: root.theme.current.textSecondary
         onClicked: root.closed()
+
+        ToolTipLabel {
+            text: close.label
+            shown: close.hovered || close.keyed
+            colors: root.theme.current
+            anchors.top: parent.bottom
+            anchors.topMargin: 4
+            anchors.right: parent.right
+        }
     }
 
     GridView {
         id: cards
 
         anchors.fill: parent
-        anchors.topMargin: 44
-        anchors.margins: 16
+        anchors.topMargin: 46
+        anchors.bottomMargin: 16
+        // The sheet's own 16, the list's 12 and 4, less what each card leaves free around itself.
+        anchors.leftMargin: 26
+        anchors.rightMargin: 26
         clip: true
         cellWidth: width / 2
-        cellHeight: 84 + 14 + 14 + 40 + 12
+        cellHeight: 136 + 12
         cacheBuffer: 0
         boundsBehavior: Flickable.StopAtBounds
         model: root.catalog.gallery()

@@ -87,6 +87,8 @@ void WidgetHost::build()
     if (!m_view) {
         qWarning("widget view %s: %s", qPrintable(url.toString()), qPrintable(component.errorString()));
         delete made;
+        m_isBroken = true;
+        Q_EMIT hasViewChanged();
         return;
     }
     m_view->setParentItem(this);

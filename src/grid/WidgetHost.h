@@ -21,6 +21,7 @@ class WidgetHost : public QQuickItem
     Q_PROPERTY(bool settingsSide MEMBER m_settingsSide FINAL)
     Q_PROPERTY(bool live READ isLive WRITE setLive NOTIFY liveChanged)
     Q_PROPERTY(bool hasView READ hasView NOTIFY hasViewChanged)
+    Q_PROPERTY(bool isBroken READ isBroken NOTIFY hasViewChanged)
 
 public:
     explicit WidgetHost(QQuickItem *parent = nullptr);
@@ -34,6 +35,8 @@ public:
     void setLive(bool live);
     /// False for a kind without a view: the tile then shows a placeholder.
     bool hasView() const { return m_view != nullptr; }
+    /// The kind has a view, and it could not be made.
+    bool isBroken() const { return m_isBroken; }
 
 Q_SIGNALS:
     void sizeChanged();
@@ -54,6 +57,7 @@ private:
     std::optional<WidgetInstance> m_instance;
     bool m_settingsSide = false;
     bool m_live = false;
+    bool m_isBroken = false;
     std::unique_ptr<WidgetContext> m_context;
     std::unique_ptr<QQuickItem> m_view;
 };

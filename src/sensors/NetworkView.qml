@@ -63,6 +63,6 @@ Item {
         height: root.size === "large" ? 44 : 20
         colors: root.colors
         bars: visible ? network.bars : []
-        longest: root.size === "wide" ? 12 : 24
+        longest: 24
     }
 }

@@ -6,6 +6,8 @@
 #include "sensors/TemperatureValueDecoder.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 
 namespace brimlight {
 namespace {
@@ -29,9 +31,12 @@ std::optional<double> plausibleCelsius(const std::optional<SMCConnection::Value>
     return isPlausible ? celsius : std::nullopt;
 }
 
+/// Halves go to the even digit, as in C; Qt rounds them up.
 QString oneDecimal(double value)
 {
-    return QString::number(value, 'f', 1);
+    std::array<char, 512> text{};
+    std::snprintf(text.data(), text.size(), "%.1f", value);
+    return QString::fromLatin1(text.data());
 }
 
 } // namespace

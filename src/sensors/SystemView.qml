@@ -52,16 +52,39 @@ Item {
                     text: ""
                     tint: system.cpuTint
                     lineWidth: 4
+                    Accessible.name: "CPU " + system.cpuText
                 }
                 MeterRing {
                     anchors.fill: parent
-                    anchors.margins: 8
+                    anchors.margins: 7
                     colors: root.colors
                     value: system.ram
-                    text: system.cpuText
+                    text: ""
                     tint: system.ramTint
                     lineWidth: 4
-                    textSize: 10
+                    Accessible.name: "RAM " + system.ramText
+                }
+                // The outer ring's number above the inner one's.
+                Column {
+                    anchors.centerIn: parent
+                    spacing: -1
+
+                    Text {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        text: system.cpuText
+                        color: root.colors.textPrimary
+                        font.family: Fonts.rounded
+                        font.pixelSize: 10
+                        font.weight: Font.Bold
+                    }
+                    Text {
+                        anchors.horizontalCenter: parent.horizontalCenter
+                        text: system.ramText
+                        color: root.colors.textSecondary
+                        font.family: Fonts.rounded
+                        font.pixelSize: 9
+                        font.weight: Font.DemiBold
+                    }
                 }
             }
         }

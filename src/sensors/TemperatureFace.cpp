@@ -78,9 +78,9 @@ std::optional<double> TemperatureFace::battery() const
     return latest ? latest->batteryC : std::nullopt;
 }
 
-QString TemperatureFace::text(std::optional<double> celsius) const
+QString TemperatureFace::number(std::optional<double> celsius) const
 {
-    return celsius ? QStringLiteral("%1°").arg(displayTemperature(*celsius, isCelsius())) : QString();
+    return celsius ? QString::number(displayTemperature(*celsius, isCelsius())) : QString();
 }
 
 } // namespace brimlight

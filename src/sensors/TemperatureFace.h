@@ -41,9 +41,10 @@ public:
     bool hasCpu() const { return cpu().has_value(); }
     double fraction() const { return temperatureFraction(cpu().value_or(0)); }
     /// "57°".
-    QString cpuText() const { return text(cpu()); }
+    QString cpuText() const { return hasCpu() ? number(cpu()) + QStringLiteral("°") : QString(); }
     bool hasBattery() const { return battery().has_value(); }
-    QString batteryText() const { return text(battery()); }
+    /// "30".
+    QString batteryText() const { return number(battery()); }
     /// "°C" or "°F".
     QString unit() const;
     QColor tint() const { return temperatureTint(cpu().value_or(0), theme().accentColor()); }
@@ -59,7 +60,7 @@ protected:
 private:
     std::optional<double> cpu() const;
     std::optional<double> battery() const;
-    QString text(std::optional<double> celsius) const;
+    QString number(std::optional<double> celsius) const;
 
     QPointer<TemperatureService> m_temperature;
     ThermalState m_state = ThermalState::nominal;

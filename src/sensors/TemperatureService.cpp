@@ -27,11 +27,11 @@ SMCBridge *TemperatureService::smcBridge()
     return m_smcBridge->get();
 }
 
-ThermalBridge *TemperatureService::thermalBridge()
+IOHIDBridge *TemperatureService::iohidBridge()
 {
-    if (!m_thermalBridge)
-        m_thermalBridge = ThermalBridge::open(m_ports.thermal, m_ports.power, m_ports.log, m_ports.scheduler);
-    return m_thermalBridge->get();
+    if (!m_iohidBridge)
+        m_iohidBridge = IOHIDBridge::open(m_ports.thermal, m_ports.power, m_ports.log, m_ports.scheduler);
+    return m_iohidBridge->get();
 }
 
 void TemperatureService::refresh()
@@ -44,8 +44,8 @@ void TemperatureService::refresh()
     if (SMCBridge *bridge = smcBridge())
         reading = bridge->readTemperatureReading();
     if (!reading) {
-        source = SensorSource::thermal;
-        if (ThermalBridge *bridge = thermalBridge())
+        source = SensorSource::iohid;
+        if (IOHIDBridge *bridge = iohidBridge())
             reading = bridge->readTemperatureReading();
     }
     if (!reading)

@@ -2,8 +2,8 @@
 
 #include "platform/WorkItem.h"
 #include "sensors/CPUTemperatureSmoother.h"
+#include "sensors/IOHIDBridge.h"
 #include "sensors/SMCBridge.h"
-#include "sensors/ThermalBridge.h"
 
 #include <QObject>
 #include <QtQmlIntegration>
@@ -44,16 +44,16 @@ Q_SIGNALS:
     void latestChanged();
 
 private:
-    enum class SensorSource { smc, thermal };
+    enum class SensorSource { smc, iohid };
 
     SMCBridge *smcBridge();
-    ThermalBridge *thermalBridge();
+    IOHIDBridge *iohidBridge();
     TemperatureReading smoothCPUTemperature(TemperatureReading reading);
 
     TemperaturePorts m_ports;
     /// Holds nothing until the bridge is first wanted, then for good a bridge or the failure to build one.
     std::optional<std::unique_ptr<SMCBridge>> m_smcBridge;
-    std::optional<std::unique_ptr<ThermalBridge>> m_thermalBridge;
+    std::optional<std::unique_ptr<IOHIDBridge>> m_iohidBridge;
     CPUTemperatureSmoother m_smoother;
     std::optional<SensorSource> m_lastSource;
     std::optional<TemperatureReading> m_latest;

@@ -21,18 +21,38 @@ Item {
         temperature: root.temperature
     }
 
+    component BatteryLine: Row {
+        spacing: 5
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "battery.100"
+            size: 11
+            color: root.colors.textSecondary
+        }
+        Caption {
+            colors: root.colors
+            text: face.batteryText
+        }
+    }
+
     MeterRing {
         id: ring
 
         visible: face.hasCpu
-        width: root.height
+        width: root.height - (root.isWide || !face.hasBattery ? 0 : 14)
         height: width
         x: root.isWide ? 0 : (root.width - width) / 2
         colors: root.colors
         value: face.fraction
         text: face.cpuText
         tint: face.tint
-        textSize: 15
+        textSize: root.isWide || !face.hasBattery ? 15 : 12
+    }
+    BatteryLine {
+        visible: !root.isWide && face.hasCpu && face.hasBattery
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
     }
     Column {
         visible: root.isWide && face.hasCpu
@@ -48,20 +68,8 @@ Item {
             text: "CPU " + face.unit
             tint: face.tint
         }
-        Row {
+        BatteryLine {
             visible: face.hasBattery
-            spacing: 5
-
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                name: "battery.100"
-                size: 11
-                color: root.colors.textSecondary
-            }
-            Caption {
-                colors: root.colors
-                text: face.batteryText
-            }
         }
     }
     // Stacked where it is small, side by side where it is wide.

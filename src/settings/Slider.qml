@@ -49,7 +49,7 @@ Item {
     }
     onValueChanged: {
         if (value !== shown)
-            moved(value);
+            moved(Math.max(0, Math.min(1, value)));
     }
 
     Binding {

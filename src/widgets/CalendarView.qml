@@ -51,7 +51,7 @@ Item {
                 text: modelData
                 color: root.colors.textSecondary
                 font.family: Fonts.rounded
-                font.pixelSize: calendar.showsWeek ? 9 : 11
+                font.pixelSize: calendar.showsWeek ? 10 : 11
                 font.weight: Font.Medium
             }
         }

@@ -30,6 +30,7 @@ Item {
 
                 width: Math.min(implicitWidth, root.width - seconds.width - 4)
                 text: clock.time
+                reduceMotion: Motion.reduced
                 font.family: root.family
                 font.pixelSize: clock.fontSize
                 font.weight: Font.DemiBold
@@ -56,6 +57,7 @@ Item {
                 RollingNumber {
                     visible: clock.seconds !== ""
                     text: clock.seconds
+                    reduceMotion: Motion.reduced
                     font.family: root.family
                     font.pixelSize: 14
                     font.weight: Font.DemiBold

@@ -53,7 +53,9 @@ double fractionOfPeriod(CalendarPeriod period, const QDateTime &date, Qt::DayOfW
 
 QString percentText(double fraction)
 {
-    return QStringLiteral("%1%").arg(static_cast<int>(fraction * 100));
+    // 0.29 is stored a little below itself.
+    constexpr double rounding = 1e-9;
+    return QStringLiteral("%1%").arg(static_cast<int>(fraction * 100 + rounding));
 }
 
 double DayProgressFace::fraction(CalendarPeriod period) const

@@ -29,7 +29,8 @@ Item {
                 id: place
 
                 required property int index
-                readonly property worldClockPlace entry: clock.places[index]
+                // A row that is about to go may be told of the shorter list first.
+                readonly property worldClockPlace entry: clock.places[Math.min(index, clock.count - 1)]
 
                 width: parent.width
                 height: root.isTall ? 30 : 18
@@ -65,6 +66,7 @@ Item {
                     x: root.isTall ? 0 : parent.width - width
                     y: root.isTall ? label.height + 1 : (parent.height - height) / 2
                     text: place.entry.time
+                    reduceMotion: Motion.reduced
                     font.family: Fonts.rounded
                     font.pixelSize: root.isTall ? 15 : 14
                     font.weight: Font.DemiBold

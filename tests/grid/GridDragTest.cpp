@@ -229,6 +229,15 @@ TEST_F(Tiles, NegativePagesAreNeverShown)
     EXPECT_EQ(TileModel(*grid).rowCount(), 0);
 }
 
+TEST_F(Tiles, APageBeyondThoseThatCanBeTurnedToIsNotTakenForAnEarlierOne)
+{
+    constexpr qint64 wrapsToTheFirst = qint64(1) << 32;
+    add(WidgetSize::small, 0, 0).page = wrapsToTheFirst;
+    load();
+    EXPECT_EQ(grid->layout().instances.first().page, wrapsToTheFirst);
+    EXPECT_EQ(TileModel(*grid).rowCount(), 0);
+}
+
 TEST(GridViewState, OneTileAtMostIsFlippedAndOwnsThePanel)
 {
     GridViewState state;

@@ -76,6 +76,32 @@ TEST_F(WidgetGallery, AHugePreviewIsScaledDownAndASmallOneKeepsItsSize)
     }
 }
 
+TEST_F(WidgetGallery, ACardShowsItsDefaultSizeAndNoOtherAsAChip)
+{
+    for (const auto &[name, chip] :
+         {std::pair("little", "1×1"), std::pair("broad", "2×1"), std::pair("giant", "3×3")}) {
+        QStringList chips;
+        for (const QQuickItem *item :
+             preview(QLatin1String(name))->parentItem()->findChildren<QQuickItem *>()) {
+            if (const QString text = item->property("text").toString(); text.contains(u'×'))
+                chips.append(text);
+        }
+        EXPECT_EQ(chips, QStringList{QString::fromUtf8(chip)}) << name;
+    }
+}
+
+TEST_F(WidgetGallery, CardsStandApartAndHoldTheirTexts)
+{
+    const QQuickItem *left = card(QStringLiteral("little"));
+    const QQuickItem *right = card(QStringLiteral("broad"));
+    const QQuickItem *below = card(QStringLiteral("giant"));
+    EXPECT_EQ(left->mapToScene({}).x(), 32);
+    EXPECT_EQ(left->width(), 152);
+    EXPECT_EQ(right->mapToScene({}).x(), left->mapToScene({}).x() + left->width() + 12);
+    EXPECT_EQ(below->mapToScene({}).y(), left->mapToScene({}).y() + left->height() + 12);
+    EXPECT_EQ(left->height(), left->implicitHeight());
+}
+
 TEST_F(WidgetGallery, CardsOfOneSymbolAreToldApartByTheirKind)
 {
     QSignalSpy added(view.rootObject(), SIGNAL(added(QString)));

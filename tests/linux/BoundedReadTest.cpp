@@ -145,6 +145,17 @@ TEST_F(BoundedReadTest, AFileThatBlocksIsAbsentAndTheOthersGoOn)
     waitForLate(reader);
 }
 
+TEST_F(BoundedReadTest, WhatDecidesForLongMayTakeLonger)
+{
+    BoundedRead reader(brief);
+    const QString pipe = makePipe("label");
+    const auto writer = std::async(std::launch::async, [&] {
+        std::this_thread::sleep_for(2 * brief);
+        release(pipe, "Tdie");
+    });
+    EXPECT_EQ(reader.lastingFile(pipe), QByteArray("Tdie"));
+}
+
 TEST_F(BoundedReadTest, AStuckKeyIsNotAskedAgain)
 {
     BoundedRead reader;

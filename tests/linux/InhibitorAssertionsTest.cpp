@@ -178,6 +178,15 @@ TEST_F(InhibitorAssertionsTest, AServiceThatIsRestartedIsAskedAgain)
     EXPECT_TRUE(waitFor([&] { return saver.inhibited.isEmpty(); }));
 }
 
+TEST_F(InhibitorAssertionsTest, AServiceThatIsGoneForGoodIsAFailure)
+{
+    saver.appear();
+    take();
+    ASSERT_TRUE(waitFor([&] { return saver.inhibited.size() == 1; }));
+    saver.vanish();
+    EXPECT_TRUE(waitFor([&] { return failures == 1; }));
+}
+
 TEST_F(InhibitorAssertionsTest, WithoutAServiceItFails)
 {
     take();
@@ -217,6 +226,27 @@ TEST(InhibitorAssertions, TheLoginManagerStandsInForTheScreenSaver)
     QTimer nudge;
     nudge.start(std::chrono::milliseconds(1));
     EXPECT_TRUE(waitFor([&] { return !manager.isHeld(); }));
+}
+
+TEST(InhibitorAssertions, TheLoginManagerTakesOverFromAScreenSaverThatIsGone)
+{
+    const PrivateBus bus;
+    LoginManager manager(bus.address());
+    ScreenSaver saver(bus.address());
+    saver.appear();
+    const auto connect = [address = bus.address()] { return newConnection(address); };
+    InhibitorAssertions assertions(connect, connect);
+    QObject context;
+    assertions.create(QStringLiteral("Coffee"), context, [] { ADD_FAILURE(); });
+    ASSERT_TRUE(waitFor([&] { return saver.inhibited.size() == 1; }));
+    EXPECT_FALSE(manager.isHeld());
+    saver.vanish();
+    ASSERT_TRUE(waitFor([&] { return manager.isHeld(); }));
+    saver.appear();
+    ASSERT_TRUE(waitFor([&] { return saver.inhibited.size() == 1; }));
+    QTimer nudge;
+    nudge.start(std::chrono::milliseconds(1));
+    EXPECT_TRUE(waitFor([&] { return !manager.isHeld(); })) << "one of them is enough";
 }
 
 } // namespace brimlight::test

@@ -87,11 +87,11 @@ protected:
         server.reset();
     }
 
-    void watch()
+    void watch(AudioDirection direction = AudioDirection::output)
     {
         server.emplace(scheduler);
         m_watch = server->watch(
-            AudioDirection::output, [this](const AudioDeviceState &state) { known.push_back(state); },
+            direction, [this](const AudioDeviceState &state) { known.push_back(state); },
             [this](const AudioDeviceState &state) { changed.push_back(state); });
     }
     /// With both sinks, found at 40 %.
@@ -166,6 +166,24 @@ TEST_F(PulseAudio, ADeviceThatFallsAsleepOrWakesUpHasNotChanged)
     ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("40%")));
     catchUp();
     EXPECT_TRUE(changed.empty());
+}
+
+TEST_F(PulseAudio, WhatListensToAnOutputIsNoMicrophone)
+{
+    daemon->start({one});
+    watch(AudioDirection::input);
+    catchUp();
+    ASSERT_TRUE(
+        daemon->run({QStringLiteral("set-source-mute"), QStringLiteral("one.monitor"), QStringLiteral("1")}));
+    catchUp();
+    EXPECT_TRUE(known.empty());
+    ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-null-source"),
+                             QStringLiteral("source_name=mic")}));
+    ASSERT_TRUE(daemon->run({QStringLiteral("set-default-source"), QStringLiteral("mic")}));
+    ASSERT_TRUE(waitFor([this] { return !known.empty(); })) << "one that is plugged in later is followed";
+    ASSERT_TRUE(daemon->run({QStringLiteral("set-source-mute"), QStringLiteral("mic"), QStringLiteral("1")}));
+    ASSERT_TRUE(hears(1));
+    EXPECT_TRUE(changed.front().isMuted);
 }
 
 TEST_F(PulseAudio, ADefaultChosenLaterIsNotFollowed)

@@ -83,7 +83,7 @@ TEST_F(StatusNotifierItemTest, AppearsOnAHostThatIsThere)
     EXPECT_EQ(said.value(QStringLiteral("Title")), QStringLiteral("The Program"));
     EXPECT_EQ(said.value(QStringLiteral("IconAccessibleDesc")), QStringLiteral("The Program"));
     EXPECT_EQ(said.value(QStringLiteral("Status")), QStringLiteral("Active"));
-    EXPECT_EQ(said.value(QStringLiteral("ItemIsMenu")), QVariant(false));
+    EXPECT_EQ(said.value(QStringLiteral("ItemIsMenu")), QVariant(true));
     EXPECT_EQ(said.value(QStringLiteral("ToolTip")).value<QDBusArgument>().currentSignature(),
               QStringLiteral("(sa(iiay)ss)"));
 }

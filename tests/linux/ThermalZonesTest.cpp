@@ -1,7 +1,7 @@
 #include "platform/linux/ThermalZones.h"
 
 #include "fixtures/machines.h"
-#include "sensors/ThermalBridge.h"
+#include "sensors/IOHIDBridge.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ QStringList cpuZones(const Machine &machine)
     ThermalZones zones(reader, machine.sys());
     QStringList names;
     for (int i = 0; i < zones.match().value_or(0); ++i) {
-        if (ThermalBridge::isCpuName(zones.name(i)))
+        if (IOHIDBridge::isCpuName(zones.name(i)))
             names.append(zones.name(i));
     }
     return names;

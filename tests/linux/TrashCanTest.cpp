@@ -113,8 +113,10 @@ TEST_F(TrashCanTest, ATrashWhoseFilesAreElsewhereIsLeftAlone)
 {
     QDir(folder.filePath(files)).removeRecursively();
     link(QStringLiteral("keep"), files);
-    EXPECT_TRUE(can.empty());
+    write(QStringLiteral("Trash/info/kept.trashinfo"));
+    EXPECT_FALSE(can.empty());
     EXPECT_TRUE(isKept());
+    EXPECT_EQ(entries(QStringLiteral("Trash/info")), QStringList(QStringLiteral("kept.trashinfo")));
 }
 
 TEST_F(TrashCanTest, RemovesWhatIsWriteProtected)

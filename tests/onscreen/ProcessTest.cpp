@@ -103,11 +103,14 @@ TEST_F(Rendering, WithoutAFolderGoesToTheTemporaryOne)
     EXPECT_EQ(errors, "");
     const QStringList files = folder.entryList(QDir::Files);
     EXPECT_EQ(said, u"rendered %1 tiles\nRENDER_OK %2\n"_s.arg(files.size()).arg(folder.path()).toUtf8());
-    EXPECT_GT(files.size(), 45) << "each kind at each of its sizes";
+    EXPECT_EQ(files.size(), 146) << "each kind at each of its sizes";
     for (const QString &name : {u"clock_wideTall.png"_s, u"weather_tall.png"_s, u"github_large.png"_s})
         EXPECT_TRUE(files.contains(name)) << name.toStdString();
-    // A tile and the room for its shadow, twice as large as on a plain screen.
-    EXPECT_EQ(QImage(folder.filePath(u"calendar_huge.png"_s)).size(), QSize(540, 540));
+    // Twice as large as on a plain screen, and nothing beside the tile's round corners.
+    const QImage calendar(folder.filePath(u"calendar_huge.png"_s));
+    EXPECT_EQ(calendar.size(), QSize(492, 492));
+    EXPECT_EQ(calendar.pixelColor(0, 0).alpha(), 0);
+    EXPECT_GT(calendar.pixelColor(calendar.rect().center()).alpha(), 100);
 }
 
 TEST_F(Rendering, ToAFolderThatCannotBeMadeFails)

@@ -119,6 +119,11 @@ TEST_F(SMCBridgeTest, ValuesOutOfBoundsAreDropped)
     }
     smc.recordCelsius("Tp02", 149.9F);
     EXPECT_NEAR(cpuMax().value(), 149.9, 1e-4);
+    smc.valueReply("Tp01").returnCode = 1;
+    for (const float broken : {0.0F, -3.0F, nan}) {
+        smc.recordCelsius("Tp02", broken);
+        EXPECT_FALSE(bridge->readTemperatureReading()) << broken << " alone";
+    }
 }
 
 TEST_F(SMCBridgeTest, TheBatteryStaysBelowEightyOrTheOtherReaderIsTried)

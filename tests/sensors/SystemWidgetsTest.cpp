@@ -206,11 +206,19 @@ TEST_F(SystemWidgets, NetworkKeepsTwentyFourValues)
     NetworkFace face;
     show(face);
     EXPECT_TRUE(face.bars().isEmpty());
-    for (int i = 1; i <= 24; ++i)
+    statistics.links = {{.name = QStringLiteral("eth0")}};
+    tick();
+    for (int i = 2; i <= 24; ++i) {
+        statistics.links[0].received += 1000 * i;
         tick();
+    }
     EXPECT_EQ(face.bars().size(), 24);
+    EXPECT_EQ(face.bars().first(), 0);
+    statistics.links[0].received += 1000 * 25;
     tick();
     EXPECT_EQ(face.bars().size(), 24);
+    EXPECT_GT(face.bars().first(), 0) << "the oldest has gone";
+    EXPECT_EQ(face.bars().last(), 1);
 }
 
 TEST_F(SystemWidgets, NetworkStartsAtZeroAndSilenceStaysFlat)
@@ -345,6 +353,10 @@ TEST_F(SystemWidgets, TemperatureIsReadOnEachTickInTheUsersUnit)
     settings.setCelsius(false);
     EXPECT_EQ(face.cpuText(), QStringLiteral("140°"));
     EXPECT_EQ(face.unit(), QStringLiteral("°F"));
+    EXPECT_EQ(face.batteryText(), QString());
+    power.setTemperature(3000);
+    tick();
+    EXPECT_EQ(face.batteryText(), QStringLiteral("86"));
 }
 
 } // namespace brimlight::test

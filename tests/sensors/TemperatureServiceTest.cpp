@@ -140,16 +140,14 @@ TEST_F(TemperatureServiceTest, AChangeOfSourceEmptiesTheSmoother)
 
 TEST_F(TemperatureServiceTest, AReadingWithoutAProcessorEmptiesTheSmoother)
 {
-    power.setTemperature(3000);
-    refresh();
-    refresh();
     smc.isBroken = true;
+    refresh();
+    EXPECT_EQ(refresh(), 60);
     thermal.services[0].celsius.reset();
     refresh();
-    EXPECT_FALSE(service->latest()->cpuMaxC);
-    smc.isBroken = false;
-    setSmc(70);
-    EXPECT_EQ(refresh(), 70);
+    EXPECT_EQ(service->latest(), (TemperatureReading{.timestamp = scheduler.now()}));
+    thermal.services[0].celsius = 80;
+    EXPECT_EQ(refresh(), 80) << "no mean with what was before";
 }
 
 TEST_F(TemperatureServiceTest, TheSmootherIsEmptiedByAnEmptyReadingOfTheSameSourceToo)

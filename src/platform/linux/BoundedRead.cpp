@@ -101,6 +101,13 @@ std::optional<QByteArray> BoundedRead::file(const QString &path)
     return call<QByteArray>(path, [path] { return smallFile(path); });
 }
 
+std::optional<QByteArray> BoundedRead::lastingFile(const QString &path)
+{
+    constexpr int timesThePatience = 10;
+    return call<QByteArray>(
+        path, [path] { return smallFile(path); }, timesThePatience * m_patience);
+}
+
 int BoundedRead::lateCount() const
 {
     const std::scoped_lock lock(m_state->mutex);
@@ -133,7 +140,7 @@ void BoundedRead::work(const std::shared_ptr<State> &state)
     }
 }
 
-bool BoundedRead::run(const QString &key, std::function<void()> body)
+bool BoundedRead::run(const QString &key, std::function<void()> body, std::chrono::milliseconds patience)
 {
     std::unique_lock lock(m_state->mutex);
     if (m_state->late >= mostLate)
@@ -160,7 +167,7 @@ bool BoundedRead::run(const QString &key, std::function<void()> body)
     lock.unlock();
     lookOutFor([&] { return job->isDone.load(); });
     lock.lock();
-    if (m_state->done.wait_for(lock, m_patience, [&] { return job->isDone.load(); }))
+    if (m_state->done.wait_for(lock, patience, [&] { return job->isDone.load(); }))
         return true;
     if (m_state->waiting == job) {
         // The machine was too busy for the worker itself.

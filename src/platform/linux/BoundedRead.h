@@ -39,16 +39,16 @@ public:
 
     /// `smallFile` of this path, or absent when it is late. The key is the path.
     std::optional<QByteArray> file(const QString &path);
+    /// The same with ten times the patience, for what is read once and decides for long: late because the
+    /// machine is busy must not count as not there.
+    std::optional<QByteArray> lastingFile(const QString &path);
 
     /// What `body` returns, or absent when it is late. `body` runs on another thread and may outlive the
     /// caller and this object, so it owns all that it uses.
     template<typename T>
     std::optional<T> call(const QString &key, std::function<std::optional<T>()> body)
     {
-        const auto result = std::make_shared<std::optional<T>>();
-        if (!run(key, [result, body = std::move(body)] { *result = body(); }))
-            return std::nullopt;
-        return std::move(*result);
+        return call<T>(key, std::move(body), m_patience);
     }
 
     /// Calls that have not returned yet.
@@ -57,8 +57,19 @@ public:
 private:
     struct State;
 
+    template<typename T>
+    std::optional<T> call(const QString &key, std::function<std::optional<T>()> body,
+                          std::chrono::milliseconds patience)
+    {
+        const auto result = std::make_shared<std::optional<T>>();
+        if (!run(
+                key, [result, body = std::move(body)] { *result = body(); }, patience))
+            return std::nullopt;
+        return std::move(*result);
+    }
+
     static void work(const std::shared_ptr<State> &state);
-    bool run(const QString &key, std::function<void()> body);
+    bool run(const QString &key, std::function<void()> body, std::chrono::milliseconds patience);
 
     /// Shared with the workers, which may outlive this object.
     std::shared_ptr<State> m_state;

@@ -177,7 +177,7 @@ std::vector<HwmonSmc::Sensor> HwmonSmc::sensors() const
 
 void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) const
 {
-    const QString chip = sysfsText(m_reader.file(folder + QStringLiteral("/name")));
+    const QString chip = sysfsText(m_reader.lastingFile(folder + QStringLiteral("/name")));
     const QString device =
         QDir(m_root).relativeFilePath(QFileInfo(folder + QStringLiteral("/device")).canonicalFilePath());
     const QString suffix = QStringLiteral("_input");
@@ -190,7 +190,7 @@ void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) cons
         if (!isNumber)
             continue;
         const QString label =
-            sysfsText(m_reader.file(QStringLiteral("%1/temp%2_label").arg(folder).arg(number)));
+            sysfsText(m_reader.lastingFile(QStringLiteral("%1/temp%2_label").arg(folder).arg(number)));
         ofChip.push_back({chip, device, label, number, folder,
                           isCpuChip(chip) || (isMixedChip(chip) && isCpuLabel(label))});
     }

@@ -61,44 +61,59 @@ void InhibitorAssertions::askScreenSaver(uint32_t id)
     const auto asking = m_held.find(id);
     if (asking == m_held.end())
         return;
+    ++asking->second.questions;
     QDBusMessage call = screenSaverCall(QStringLiteral("Inhibit"));
     call << program << asking->second.name;
     callDBus(*m_session, call, *this, [this, id](const std::optional<QVariantList> &reply) {
         const QVariant cookie = reply.value_or(QVariantList()).value(0);
         const auto held = m_held.find(id);
-        if (cookie.typeId() != QMetaType::UInt)
+        if (cookie.typeId() != QMetaType::UInt) {
             askLoginManager(id);
-        else if (held == m_held.end() || held->second.cookie)
+        } else if (held == m_held.end() || held->second.cookie) {
             // Released meanwhile, or asked twice because the call itself has started the service.
             uninhibit(cookie.toUInt());
-        else
+        } else {
             held->second.cookie = cookie.toUInt();
+            held->second.inhibitor = QDBusUnixFileDescriptor();
+        }
+        answered(id);
     });
 }
 
 void InhibitorAssertions::askLoginManager(uint32_t id)
 {
+    const auto asking = m_held.find(id);
+    if (asking == m_held.end())
+        return;
+    ++asking->second.questions;
     openBus(*this, m_openSystem, [this, id](const QDBusConnection &bus) {
-        const auto asking = m_held.find(id);
-        if (asking == m_held.end())
+        const auto asked = m_held.find(id);
+        if (asked == m_held.end())
             return;
         if (!bus.isConnected()) {
-            fail(id);
+            answered(id);
             return;
         }
         QDBusMessage call = QDBusMessage::createMethodCall(
             QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),
             QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("Inhibit"));
-        call << QStringLiteral("idle") << program << asking->second.name << QStringLiteral("block");
+        call << QStringLiteral("idle") << program << asked->second.name << QStringLiteral("block");
         callDBus(bus, call, *this, [this, id](const std::optional<QVariantList> &reply) {
-            const auto inhibitor = reply.value_or(QVariantList()).value(0).value<QDBusUnixFileDescriptor>();
             const auto held = m_held.find(id);
-            if (!inhibitor.isValid())
-                fail(id);
-            else if (held != m_held.end())
-                held->second.inhibitor = inhibitor;
+            if (held != m_held.end() && !held->second.cookie)
+                held->second.inhibitor =
+                    reply.value_or(QVariantList()).value(0).value<QDBusUnixFileDescriptor>();
+            answered(id);
         });
     });
+}
+
+void InhibitorAssertions::answered(uint32_t id)
+{
+    const auto held = m_held.find(id);
+    if (held != m_held.end() && --held->second.questions == 0 && !held->second.cookie &&
+        !held->second.inhibitor.isValid())
+        fail(id);
 }
 
 void InhibitorAssertions::fail(uint32_t id)
@@ -120,7 +135,9 @@ void InhibitorAssertions::ownerChanged(const QString &, const QString &, const Q
     for (auto &[id, held] : m_held) {
         // Cookies of a service that is gone mean nothing to the next one.
         held.cookie.reset();
-        if (!now.isEmpty())
+        if (now.isEmpty())
+            askLoginManager(id);
+        else
             askScreenSaver(id);
     }
 }

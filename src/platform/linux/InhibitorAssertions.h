@@ -13,7 +13,7 @@ namespace brimlight {
 
 /// Keeps the display awake through the session's screen saver service or, where there is none, through an
 /// inhibitor of the login manager. Both end what is held when the program leaves the bus. A service that is
-/// restarted is asked again for everything that is held.
+/// restarted is asked again for everything that is held, and until then the login manager is.
 class InhibitorAssertions : public QObject, public PowerAssertions
 {
     Q_OBJECT
@@ -37,6 +37,8 @@ private:
         std::optional<uint> cookie;
         /// Of the login manager.
         QDBusUnixFileDescriptor inhibitor;
+        /// Questions that have not been answered yet.
+        int questions = 0;
     };
 
     Q_SLOT void ownerChanged(const QString &name, const QString &before, const QString &now);
@@ -44,6 +46,8 @@ private:
     void open(uint32_t id);
     void askScreenSaver(uint32_t id);
     void askLoginManager(uint32_t id);
+    /// Fails when it was the last answer and nothing is held by then.
+    void answered(uint32_t id);
     void fail(uint32_t id);
     void uninhibit(uint cookie);
 

@@ -285,13 +285,25 @@ void PulseSession::abandonQueries()
         query.answered(std::nullopt);
 }
 
+/// Whether something is heard or recorded with it: not what the server offers when there is nothing, nor what
+/// listens to an output, which stands in for a microphone where there is none.
+template<typename Info>
+static bool isDevice(const Info &info)
+{
+    if constexpr (std::is_same_v<Info, pa_source_info>) {
+        if (info.monitor_of_sink != PA_INVALID_INDEX)
+            return false;
+    }
+    return !std::string_view(info.name).starts_with(dummyDevice);
+}
+
 template<typename Info>
 void PulseSession::takeInfo(pa_context *, const Info *info, int end, void *query)
 {
     auto &asked = *static_cast<Query *>(query);
     if (end != 0)
         finish(asked);
-    else if (!std::string_view(info->name).starts_with(dummyDevice))
+    else if (isDevice(*info))
         asked.found = PulseDevice{.index = info->index, .state = pulseState(info->volume, info->mute != 0)};
 }
 

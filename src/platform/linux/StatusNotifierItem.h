@@ -84,7 +84,7 @@ public:
     static StatusPixmaps noPixmap() { return {}; }
     StatusPixmaps iconPixmap();
     StatusToolTip toolTip() const { return {.title = title()}; }
-    static bool itemIsMenu() { return false; }
+    static bool itemIsMenu() { return true; }
     static QDBusObjectPath menu();
 
     // From here on the names are those of the protocol.

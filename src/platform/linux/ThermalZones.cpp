@@ -44,7 +44,8 @@ std::optional<int> ThermalZones::match()
                      [&number](const QString &a, const QString &b) { return number(a) < number(b); });
     for (const QString &zone : std::as_const(zones)) {
         const QString path = folder.filePath(zone);
-        m_zones.push_back({path, nameOfType(sysfsText(m_reader.file(path + QStringLiteral("/type"))))});
+        m_zones.push_back(
+            {path, nameOfType(sysfsText(m_reader.lastingFile(path + QStringLiteral("/type"))))});
     }
     return static_cast<int>(m_zones.size());
 }

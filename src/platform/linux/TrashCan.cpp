@@ -107,6 +107,9 @@ bool removeTree(const Folder &parent, const char *name) // NOLINT(misc-no-recurs
 bool emptyTrashFolder(const Folder &trash)
 {
     const Folder files = openedForRemoval(trash, "files");
+    // What is out of reach stays, and so do the descriptions by which it can be restored.
+    if (!files.isOpen() && trash.contains("files"))
+        return false;
     const Folder info = openedForRemoval(trash, "info");
     bool all = true;
     for (const QByteArray &name : files.names())

@@ -12,12 +12,12 @@ namespace brimlight {
 
 /// The second source of temperatures: sensors that have a name and a value. Which of them are the processor's
 /// is told by the name.
-class ThermalBridge
+class IOHIDBridge
 {
 public:
     /// Nothing, with a line in the log, when the services cannot be listed. Later ones are not noticed.
-    static std::unique_ptr<ThermalBridge> open(ThermalServices &services, PowerSources &power, Log &log,
-                                               Scheduler &scheduler);
+    static std::unique_ptr<IOHIDBridge> open(ThermalServices &services, PowerSources &power, Log &log,
+                                             Scheduler &scheduler);
 
     /// Whether a sensor of this name belongs to the processor.
     static bool isCpuName(const QString &name);
@@ -26,7 +26,7 @@ public:
     TemperatureReading readTemperatureReading();
 
 private:
-    ThermalBridge(ThermalServices &services, PowerSources &power, Scheduler &scheduler, int count);
+    IOHIDBridge(ThermalServices &services, PowerSources &power, Scheduler &scheduler, int count);
 
     ThermalServices &m_services;
     PowerSources &m_power;

@@ -1,4 +1,4 @@
-#include "sensors/ThermalBridge.h"
+#include "sensors/IOHIDBridge.h"
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
 
@@ -7,7 +7,7 @@
 namespace brimlight::test {
 namespace {
 
-class ThermalBridgeTest : public testing::Test
+class IOHIDBridgeTest : public testing::Test
 {
 protected:
     void add(const char *name, std::optional<double> celsius)
@@ -16,7 +16,7 @@ protected:
     }
     TemperatureReading read()
     {
-        const auto bridge = ThermalBridge::open(thermal, power, log, scheduler);
+        const auto bridge = IOHIDBridge::open(thermal, power, log, scheduler);
         return bridge ? bridge->readTemperatureReading() : TemperatureReading();
     }
 
@@ -28,42 +28,42 @@ protected:
 
 } // namespace
 
-TEST_F(ThermalBridgeTest, ReportsWhyItCouldNotStart)
+TEST_F(IOHIDBridgeTest, ReportsWhyItCouldNotStart)
 {
     thermal.canList = false;
-    EXPECT_FALSE(ThermalBridge::open(thermal, power, log, scheduler));
+    EXPECT_FALSE(IOHIDBridge::open(thermal, power, log, scheduler));
     ASSERT_EQ(log.entries.size(), 1U);
     EXPECT_EQ(log.entries[0].level, LogLevel::error);
-    EXPECT_EQ(log.entries[0].category, QStringLiteral("ThermalBridge"));
+    EXPECT_EQ(log.entries[0].category, QStringLiteral("IOHIDBridge"));
 }
 
-TEST_F(ThermalBridgeTest, TellsHowManyServicesThereAre)
+TEST_F(IOHIDBridgeTest, TellsHowManyServicesThereAre)
 {
     add("cpu", 40);
     add("acpitz", 41);
-    EXPECT_TRUE(ThermalBridge::open(thermal, power, log, scheduler));
-    EXPECT_EQ(log.entries,
-              (std::vector<RecordingLog::Entry>{{LogLevel::info, QStringLiteral("ThermalBridge"),
-                                                 QStringLiteral("Thermal bridge ready (2 services)")}}));
+    EXPECT_TRUE(IOHIDBridge::open(thermal, power, log, scheduler));
+    EXPECT_EQ(log.entries, (std::vector<RecordingLog::Entry>{
+                               {LogLevel::info, QStringLiteral("IOHIDBridge"),
+                                QStringLiteral("IOHID temperature bridge ready (2 services)")}}));
 }
 
-TEST_F(ThermalBridgeTest, TheNameTellsTheProcessorsSensors)
+TEST_F(IOHIDBridgeTest, TheNameTellsTheProcessorsSensors)
 {
     for (const char *name : {"cpu-thermal", "CPU x86_pkg_temp", "pACC 1", "eACC", "Tdie3"})
-        EXPECT_TRUE(ThermalBridge::isCpuName(QLatin1String(name))) << name;
+        EXPECT_TRUE(IOHIDBridge::isCpuName(QLatin1String(name))) << name;
     for (const char *name : {"acpitz", "gpu-thermal", "", "soc"})
-        EXPECT_FALSE(ThermalBridge::isCpuName(QLatin1String(name))) << name;
+        EXPECT_FALSE(IOHIDBridge::isCpuName(QLatin1String(name))) << name;
 }
 
-TEST_F(ThermalBridgeTest, AWordOfAnotherPartWins)
+TEST_F(IOHIDBridgeTest, AWordOfAnotherPartWins)
 {
-    EXPECT_FALSE(ThermalBridge::isCpuName(QStringLiteral("tdie battery")));
+    EXPECT_FALSE(IOHIDBridge::isCpuName(QStringLiteral("tdie battery")));
     for (const char *part :
          {"Battery", "NAND", "ambient", "case", "skin", "tcal", "tdev", "charger", "WiFi", "display"})
-        EXPECT_FALSE(ThermalBridge::isCpuName(QStringLiteral("CPU ") + QLatin1String(part))) << part;
+        EXPECT_FALSE(IOHIDBridge::isCpuName(QStringLiteral("CPU ") + QLatin1String(part))) << part;
 }
 
-TEST_F(ThermalBridgeTest, ValuesOutOfBoundsAreDropped)
+TEST_F(IOHIDBridgeTest, ValuesOutOfBoundsAreDropped)
 {
     add("cpu0", 40);
     add("cpu1", 120);
@@ -72,9 +72,11 @@ TEST_F(ThermalBridgeTest, ValuesOutOfBoundsAreDropped)
     EXPECT_EQ(read().cpuMaxC, 40);
     thermal.services[1].celsius = 119.5;
     EXPECT_EQ(read().cpuMaxC, 119.5);
+    thermal.services[0].celsius = thermal.services[1].celsius = -2;
+    EXPECT_FALSE(read().cpuMaxC) << "0 and below alone";
 }
 
-TEST_F(ThermalBridgeTest, RejectsOutliersAndReadsTheBattery)
+TEST_F(IOHIDBridgeTest, RejectsOutliersAndReadsTheBattery)
 {
     for (const double celsius : {40, 41, 42, 95})
         add("cpu", celsius);
@@ -82,7 +84,7 @@ TEST_F(ThermalBridgeTest, RejectsOutliersAndReadsTheBattery)
     EXPECT_EQ(read(), (TemperatureReading{42, 30.1, scheduler.now()}));
 }
 
-TEST_F(ThermalBridgeTest, WithoutAnythingTheReadingIsEmptyButThere)
+TEST_F(IOHIDBridgeTest, WithoutAnythingTheReadingIsEmptyButThere)
 {
     add("acpitz", 27.8);
     EXPECT_EQ(read(), (TemperatureReading{.timestamp = scheduler.now()}));

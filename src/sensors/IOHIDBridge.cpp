@@ -1,4 +1,4 @@
-#include "sensors/ThermalBridge.h"
+#include "sensors/IOHIDBridge.h"
 
 #include "sensors/BatteryTemperatureReader.h"
 #include "sensors/TemperatureOutlierFilter.h"
@@ -17,7 +17,7 @@ constexpr std::array otherParts{"battery", "nand", "ambient", "case", "skin",
                                 "tcal",    "tdev", "charger", "wifi", "display"};
 constexpr std::array cpuParts{"cpu", "pacc", "eacc", "tdie"};
 
-const QString category = QStringLiteral("ThermalBridge");
+const QString category = QStringLiteral("IOHIDBridge");
 
 template<typename Words>
 bool containsAny(const QString &text, const Words &words)
@@ -28,20 +28,21 @@ bool containsAny(const QString &text, const Words &words)
 
 } // namespace
 
-std::unique_ptr<ThermalBridge> ThermalBridge::open(ThermalServices &services, PowerSources &power, Log &log,
-                                                   Scheduler &scheduler)
+std::unique_ptr<IOHIDBridge> IOHIDBridge::open(ThermalServices &services, PowerSources &power, Log &log,
+                                               Scheduler &scheduler)
 {
     const auto count = services.match();
     if (!count) {
         log.write(LogLevel::error, category,
-                  QStringLiteral("Thermal services cannot be listed — thermal bridge disabled"));
+                  QStringLiteral("Thermal services cannot be listed — IOHID bridge disabled"));
         return nullptr;
     }
-    log.write(LogLevel::info, category, QStringLiteral("Thermal bridge ready (%1 services)").arg(*count));
-    return std::unique_ptr<ThermalBridge>(new ThermalBridge(services, power, scheduler, *count));
+    log.write(LogLevel::info, category,
+              QStringLiteral("IOHID temperature bridge ready (%1 services)").arg(*count));
+    return std::unique_ptr<IOHIDBridge>(new IOHIDBridge(services, power, scheduler, *count));
 }
 
-ThermalBridge::ThermalBridge(ThermalServices &services, PowerSources &power, Scheduler &scheduler, int count)
+IOHIDBridge::IOHIDBridge(ThermalServices &services, PowerSources &power, Scheduler &scheduler, int count)
     : m_services(services)
     , m_power(power)
     , m_scheduler(scheduler)
@@ -49,13 +50,13 @@ ThermalBridge::ThermalBridge(ThermalServices &services, PowerSources &power, Sch
 {
 }
 
-bool ThermalBridge::isCpuName(const QString &name)
+bool IOHIDBridge::isCpuName(const QString &name)
 {
     const QString lower = name.toLower();
     return !containsAny(lower, otherParts) && containsAny(lower, cpuParts);
 }
 
-TemperatureReading ThermalBridge::readTemperatureReading()
+TemperatureReading IOHIDBridge::readTemperatureReading()
 {
     std::vector<double> values;
     for (int service = 0; service < m_count; ++service) {

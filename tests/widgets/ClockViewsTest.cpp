@@ -1,0 +1,91 @@
+#include "fakes/Scene.h"
+#include "theme/Motion.h"
+#include "widgets/WidgetFixture.h"
+
+#include <QCoreApplication>
+#include <QQmlEngine>
+#include <QQuickView>
+
+namespace brimlight::test {
+
+namespace {
+
+/// One clock alone in a window.
+class ClockViews : public WidgetTest
+{
+protected:
+    void show(const char *name, WidgetSize size)
+    {
+        context.setSize(size);
+        motion.installOn(*view.engine());
+        view.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        view.setInitialProperties({{QStringLiteral("context"), QVariant::fromValue(&context)}});
+        view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Widgets/%1.qml").arg(QLatin1String(name))));
+        view.resize(140, 140);
+        view.show();
+        context.setLive(true);
+        QCoreApplication::processEvents();
+    }
+    QList<QQuickItem *> numbers() const
+    {
+        QList<QQuickItem *> found = scene.items();
+        found.removeIf([](const QQuickItem *item) { return !item->inherits("brimlight::RollingNumber"); });
+        return found;
+    }
+    QStringList numberTexts() const
+    {
+        QStringList texts;
+        for (const QQuickItem *item : numbers())
+            texts.append(item->property("text").toString());
+        return texts;
+    }
+
+    FakeAppearance appearance;
+    Motion motion{&appearance};
+    QQuickView view;
+    Scene scene{view};
+};
+
+} // namespace
+
+TEST_F(ClockViews, NoDigitRollsUnderReducedMotion)
+{
+    for (const char *name : {"ClockView", "WorldClockView"}) {
+        show(name, WidgetSize::large);
+        ASSERT_FALSE(numbers().isEmpty()) << name;
+        for (const bool reduced : {true, false}) {
+            appearance.set(reduced, false);
+            for (const QQuickItem *number : numbers())
+                EXPECT_EQ(number->property("reduceMotion"), QVariant(reduced)) << name;
+        }
+    }
+}
+
+TEST_F(ClockViews, A24HourClockDrawsNoMarker)
+{
+    show("ClockView", WidgetSize::wide);
+    const auto drawsMarker = [this] { return scene.texts().contains(QStringLiteral("AM")); };
+    EXPECT_FALSE(drawsMarker());
+    settings.setClock24h(false);
+    EXPECT_TRUE(drawsMarker());
+}
+
+TEST_F(ClockViews, ASmallClockDrawsNoSeconds)
+{
+    show("ClockView", WidgetSize::small);
+    EXPECT_EQ(numberTexts(), QStringList(QStringLiteral("09:26")));
+    context.setSize(WidgetSize::wide);
+    EXPECT_EQ(numberTexts(), (QStringList{QStringLiteral("09:26"), QStringLiteral("53")}));
+}
+
+TEST_F(ClockViews, AWorldClockThatShrinksLeavesItsLastPlacesOut)
+{
+    show("WorldClockView", WidgetSize::large);
+    EXPECT_EQ(numbers().size(), 4);
+    context.setSize(WidgetSize::wide);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(numbers().size(), 2);
+}
+
+} // namespace brimlight::test
