@@ -24,6 +24,7 @@ Item {
 
         GlassSurface {
             anchors.fill: parent
+            opacity: root.controller.viewModel.isExpanded ? 1 : 0
             theme: root.colors
             strength: root.controller.theme.glassStrength
             tinted: true
@@ -31,6 +32,13 @@ Item {
             bottomRadius: 32
             reduceTransparency: Motion.opaque
             backdrop: root.panel.backdrop
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Motion.panel.duration
+                    easing: Motion.panel.easing
+                }
+            }
         }
 
         // The bare surface, below everything that takes taps of its own.
@@ -78,11 +86,10 @@ Item {
     DropArea {
         anchors.fill: pane
         keys: ["text/uri-list"]
+        onEntered: drag => drag.accepted = root.controller.takesDrop(drag.urls)
         onDropped: drop => {
-            if (drop.hasUrls) {
-                drop.accept(Qt.CopyAction);
-                root.controller.filesDropped();
-            }
+            drop.accept(Qt.CopyAction);
+            root.controller.filesDropped(drop.urls);
         }
 
         NotchOutline {
