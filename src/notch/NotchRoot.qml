@@ -24,7 +24,8 @@ Item {
 
         GlassSurface {
             anchors.fill: parent
-            opacity: root.controller.viewModel.isExpanded ? 1 : 0
+            // Where nothing can shine through there is nothing to fade into.
+            opacity: root.controller.viewModel.isExpanded || backdrop === GlassSurface.Opaque ? 1 : 0
             theme: root.colors
             strength: root.controller.theme.glassStrength
             tinted: true

@@ -290,6 +290,10 @@ protected:
         time.advanceBy(0ms);
         time.advanceBy(duration);
     }
+    void setBackdrop(SurfaceBackdrop backdrop)
+    {
+        static_cast<OffscreenSurface &>(window.surface()).currentBackdrop = backdrop;
+    }
     void beginToOpen()
     {
         controller->open();
@@ -309,6 +313,7 @@ TEST_F(Content, GoesBeforeWhatItIsBoundTo)
 
 TEST_F(Content, GrowsAndFadesInWithThePanelFromTheFirstTimeOn)
 {
+    setBackdrop(SurfaceBackdrop::blurred);
     start();
     for (const char *opening : {"first", "second"}) {
         SCOPED_TRACE(opening);
@@ -326,8 +331,18 @@ TEST_F(Content, GrowsAndFadesInWithThePanelFromTheFirstTimeOn)
     }
 }
 
+TEST_F(Content, GlassThatNothingShinesThroughDoesNotFade)
+{
+    setBackdrop(SurfaceBackdrop::opaque);
+    start();
+    beginToOpen();
+    ASSERT_TRUE(glass());
+    EXPECT_EQ(glass()->opacity(), 1);
+}
+
 TEST_F(Content, GoesByOpacityAlone)
 {
+    setBackdrop(SurfaceBackdrop::translucent);
     start();
     open();
     controller->requestClose();
