@@ -239,8 +239,8 @@ Item {
         WheelHandler {
             enabled: !root.viewModel.optionsOpen
             onWheel: event => {
-                const most = Math.max(0, parent.contentHeight - parent.height);
-                parent.contentY = Math.max(0, Math.min(most, parent.contentY - event.angleDelta.y / 2));
+                const most = Math.max(0, page.contentHeight - page.height);
+                page.contentY = Math.max(0, Math.min(most, page.contentY - event.angleDelta.y / 2));
             }
         }
     }

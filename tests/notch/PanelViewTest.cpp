@@ -7,6 +7,7 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -417,6 +418,31 @@ TEST_F(Content, TheGalleryOpensByTheSpringOfThePanelAndClosesSooner)
     EXPECT_LT(overlay()->opacity(), 0.5) << "an ease-out";
     time.advanceBy(90ms);
     EXPECT_FALSE(overlay());
+}
+
+TEST_F(Content, AFullPageIsScrolledByTheWheelUnlessOptionsAreOpen)
+{
+    start();
+    controller->grid()->setLayout({.instances = {{.kind = QStringLiteral("gone"), .col = 0, .row = 7}}});
+    open();
+    const QQuickItem *page = scene.ofType("WidgetGridView").first()->parentItem()->parentItem();
+    const auto turnWheel = [this](int degrees) {
+        const QPointF where = panel().pane().center();
+        QWheelEvent event(where, where, {}, {0, 8 * degrees}, {}, {}, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&window.view(), &event);
+        settle();
+    };
+    const auto y = [&] { return page->property("contentY").toDouble(); };
+    turnWheel(-15);
+    EXPECT_EQ(y(), 60);
+    model().setOptionsOpen(true);
+    turnWheel(-15);
+    EXPECT_EQ(y(), 60);
+    model().setOptionsOpen(false);
+    turnWheel(-150);
+    EXPECT_EQ(y(), 8 * 86 - 12 - page->height());
+    turnWheel(150);
+    EXPECT_EQ(y(), 0);
 }
 
 TEST_F(Content, ATileThatTurnsOverAtTheFootOfAFullPageIsScrolledTo)
