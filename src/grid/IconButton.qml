@@ -7,6 +7,7 @@ AbstractButton {
 
     required property string symbol
     property real symbolSize: 12
+    property int weight: Font.Normal
     property color color: "white"
 
     FocusRing {
@@ -16,6 +17,7 @@ AbstractButton {
         anchors.centerIn: parent
         name: root.symbol
         size: root.symbolSize
+        weight: root.weight
         color: root.color
     }
 }

@@ -31,18 +31,25 @@ Item {
         }
     }
 
+    // As far from the upper and lower edge as the tile's corners cut into what is scrolled past them.
     Flickable {
+        id: scroll
+
+        readonly property real cut: 4
+
         anchors.fill: parent
+        anchors.topMargin: cut
+        anchors.bottomMargin: cut
         clip: true
         visible: settings.hasView
-        contentHeight: settings.height + 26
+        contentHeight: settings.height + 26 - 2 * cut
         boundsBehavior: Flickable.StopAtBounds
 
         WidgetHost {
             id: settings
 
             x: 12
-            y: 14
+            y: 14 - scroll.cut
             width: root.width - 24
             height: implicitHeight
             catalog: root.catalog
@@ -70,6 +77,7 @@ Item {
         height: 18
         symbol: "xmark"
         symbolSize: 10
+        weight: Font.Bold
         label: qsTr("Close")
         color: root.theme.current.textPrimary
         opacity: 0.8

@@ -15,6 +15,11 @@ Item {
     required property ThemeStore theme
     required property int page
     required property bool open
+    // It fades as a whole, so its tiles stay until it has gone.
+    property bool fading: false
+    property WidgetTile turned: null
+    // The lower edge of the tile that shows its back, which can be below the last row.
+    readonly property real turnedBottom: turned && turned.shown ? turned.foot : 0
 
     signal menuRequested(Item tile, string instanceId, string kind, point position)
 
@@ -33,24 +38,27 @@ Item {
         dragging: root.drag.isActive
     }
 
-    DropHighlight {
-        visible: root.drag.hasTarget
-        x: root.drag.highlight.x
-        y: root.drag.highlight.y
-        width: root.drag.highlight.width
-        height: root.drag.highlight.height
-        fits: root.drag.fits
+    // Made anew wherever it appears, so that it does not come flying from where it was last.
+    Loader {
+        active: root.drag.hasTarget
+        sourceComponent: DropHighlight {
+            x: root.drag.highlight.x // qmllint disable unqualified
+            y: root.drag.highlight.y // qmllint disable unqualified
+            width: root.drag.highlight.width // qmllint disable unqualified
+            height: root.drag.highlight.height // qmllint disable unqualified
+            fits: root.drag.fits // qmllint disable unqualified
 
-        Behavior on x {
-            NumberAnimation {
-                duration: Motion.quickFade.duration
-                easing: Motion.quickFade.easing
+            Behavior on x {
+                NumberAnimation {
+                    duration: Motion.quickFade.duration
+                    easing: Motion.quickFade.easing
+                }
             }
-        }
-        Behavior on y {
-            NumberAnimation {
-                duration: Motion.quickFade.duration
-                easing: Motion.quickFade.easing
+            Behavior on y {
+                NumberAnimation {
+                    duration: Motion.quickFade.duration
+                    easing: Motion.quickFade.easing
+                }
             }
         }
     }
@@ -64,10 +72,15 @@ Item {
             catalog: root.catalog
             theme: root.theme
             viewState: root.viewState
-            shown: root.open && page === root.page && !leaving
+            live: root.open && page === root.page && !leaving
+            shown: (root.open || root.fading) && page === root.page && !leaving
             // The row goes with its tile, which must not go within its own handler.
             onDeparted: Qt.callLater(root.tiles.forget, instanceId)
             z: flipped ? 2 : 0
+            onFlippedChanged: {
+                if (flipped)
+                    root.turned = tile;
+            }
             onMenuRequested: position => root.menuRequested(tile, instanceId, kind, mapToItem(root, position))
             onDragStarted: root.drag.begin(instanceId, page)
             onDragMoved: position => root.drag.move(mapToItem(root, position))

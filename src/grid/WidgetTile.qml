@@ -18,14 +18,20 @@ Item {
     required property ThemeStore theme
     required property GridViewState viewState
     required property bool leaving
+    // It is drawn where it stands, or on its way to be.
     required property bool shown
+    // Somebody can see and use it.
+    required property bool live
 
     readonly property bool flipped: viewState.flippedWidget === instanceId
     readonly property bool isOneRow: frame.height < 80
     readonly property bool isSmall: isOneRow && frame.width < 80
     // From 0, the front, to 180, the back.
     property real angle: flipped ? 180 : 0
-    property real entrance: shown ? 1 : 0
+    property real entrance: shown && isMade ? 1 : 0
+    // An entrance needs something to start from.
+    property bool isMade: false
+    readonly property real foot: y + height
 
     signal departed
     signal menuRequested(point position)
@@ -39,10 +45,11 @@ Item {
     height: frame.height + (flipped && isOneRow ? 110 : 0)
     opacity: entrance
     visible: entrance > 0
-    enabled: shown
+    enabled: live
     transformOrigin: shown ? Item.Top : Item.Center
     scale: (shown ? 0.85 + 0.15 * entrance : 0.8 + 0.2 * entrance) * (hover.hovered && !Motion.reduced ? 1.02 : flipped ? 0.98 : 1)
-    activeFocusOnTab: shown
+    activeFocusOnTab: live
+    Component.onCompleted: isMade = true
 
     function requestMenu(): void {
         menuRequested(Qt.point(0, height + 6));
@@ -67,7 +74,7 @@ Item {
             nextItemInFocusChain(false).forceActiveFocus(Qt.TabFocusReason);
     }
     onFlippedChanged: {
-        if (!flipped && InputModality.isKeyboard)
+        if (!flipped && live && InputModality.isKeyboard)
             forceActiveFocus(Qt.TabFocusReason);
     }
 
@@ -118,13 +125,17 @@ Item {
         }
     }
     Behavior on entrance {
+        id: passage
+
+        readonly property bool comesIn: targetValue === 1
+
         SequentialAnimation {
             PauseAnimation {
-                duration: root.shown && !Motion.reduced ? (root.row * 6 + root.col) * 30 : 0
+                duration: passage.comesIn && !Motion.reduced ? (root.row * 6 + root.col) * 30 : 0
             }
             NumberAnimation {
-                duration: root.shown ? Motion.entrance.duration : Motion.fade.duration
-                easing: root.shown ? Motion.entrance.easing : Motion.fade.easing
+                duration: passage.comesIn ? Motion.entrance.duration : Motion.fade.duration
+                easing: passage.comesIn ? Motion.entrance.easing : Motion.fade.easing
             }
         }
     }
@@ -149,7 +160,6 @@ Item {
     }
     DragHandler {
         target: null
-        enabled: !root.flipped
         acceptedButtons: Qt.LeftButton
         onActiveChanged: active ? root.dragStarted() : root.dragEnded(centroid.position)
         onCentroidChanged: {
@@ -168,9 +178,16 @@ Item {
         anchors.fill: parent
         theme: root.theme.current
         strength: root.theme.glassStrength
-        focused: hover.hovered
+        focusLevel: hover.hovered ? 1 : 0
         solid: root.isOneRow && root.angle > 0
         reduceTransparency: Motion.opaque
+
+        Behavior on focusLevel {
+            NumberAnimation {
+                duration: Motion.hover.duration
+                easing: Motion.hover.easing
+            }
+        }
     }
 
     WidgetHost {
@@ -182,7 +199,7 @@ Item {
         catalog: root.catalog
         kind: root.kind
         instance: root.instance
-        live: root.shown
+        live: root.live
 
         Symbol {
             anchors.centerIn: parent

@@ -15,6 +15,10 @@ Item {
     readonly property bool shown: viewModel.isExpanded
     readonly property real topInset: viewModel.collapsedHeight + 8
     property bool galleryOpen: false
+    // The first movement needs something to start from.
+    property bool isMade: false
+    // From 0, the walk-through, to 1, header and grid.
+    property real arrival: viewModel.onboardingCompleted ? 1 : 0
 
     signal menuRequested(Item tile, string instanceId, string kind, point position)
 
@@ -34,9 +38,10 @@ Item {
         (InputModality.isKeyboard ? next : root).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    opacity: shown ? 1 : 0
-    scale: shown ? 1 : 0.95
+    opacity: 0
+    scale: 0.95
     transformOrigin: Item.Top
+    Component.onCompleted: isMade = true
     Keys.onEscapePressed: {
         if (galleryOpen)
             closeGallery();
@@ -71,23 +76,54 @@ Item {
         }
     }
 
-    Behavior on opacity {
-        NumberAnimation {
-            duration: Motion.panel.duration
-            easing: Motion.panel.easing
+    states: State {
+        name: "shown"
+        when: root.isMade && root.shown
+
+        PropertyChanges {
+            root.opacity: 1
+            root.scale: 1
         }
     }
-    Behavior on scale {
+    transitions: [
+        Transition {
+            to: "shown"
+
+            NumberAnimation {
+                properties: "opacity,scale"
+                duration: Motion.panel.duration
+                easing: Motion.panel.easing
+            }
+        },
+        Transition {
+            to: ""
+
+            SequentialAnimation {
+                NumberAnimation {
+                    property: "opacity"
+                    duration: Motion.panel.duration
+                    easing: Motion.panel.easing
+                }
+                PropertyAction {
+                    property: "scale"
+                }
+            }
+        }
+    ]
+
+    Behavior on arrival {
         NumberAnimation {
-            duration: Motion.panel.duration
-            easing: Motion.panel.easing
+            duration: Motion.change.duration
+            easing: Motion.change.easing
         }
     }
 
     Loader {
         anchors.fill: parent
         anchors.topMargin: root.topInset
-        active: !root.viewModel.onboardingCompleted
+        active: opacity > 0
+        enabled: !root.viewModel.onboardingCompleted
+        opacity: 1 - root.arrival
         sourceComponent: NotchOnboarding {
             controller: root.controller // qmllint disable unqualified
         }
@@ -102,6 +138,7 @@ Item {
         anchors.right: parent.right
         y: Math.max(4, (root.viewModel.collapsedHeight - height) / 2)
         visible: root.viewModel.onboardingCompleted
+        opacity: root.arrival
         enabled: !root.galleryOpen
         controller: root.controller
         onGalleryRequested: root.openGallery()
@@ -158,14 +195,31 @@ Item {
     }
 
     Flickable {
+        id: page
+
+        readonly property bool wanted: root.viewModel.onboardingCompleted && !root.viewModel.showSettings
+        property real presence: root.viewModel.showSettings ? 0 : 1
+
         anchors.fill: parent
         anchors.topMargin: root.topInset
         anchors.bottomMargin: 24
         clip: contentHeight > height
-        visible: root.viewModel.onboardingCompleted && !root.viewModel.showSettings
-        enabled: !root.galleryOpen
+        visible: opacity > 0
+        enabled: wanted && !root.galleryOpen
+        opacity: presence * root.arrival
         interactive: false
-        contentHeight: grid.implicitHeight
+        contentHeight: Math.max(grid.implicitHeight, grid.turnedBottom)
+        // A tile that grows as it turns over is followed to its end.
+        onContentHeightChanged: contentY = Math.max(contentY, grid.turnedBottom - height)
+
+        Behavior on presence {
+            enabled: settings.fades
+
+            NumberAnimation {
+                duration: Motion.fade.duration
+                easing: Motion.fade.easing
+            }
+        }
 
         WidgetGridView {
             id: grid
@@ -178,14 +232,15 @@ Item {
             viewState: root.viewModel
             theme: root.controller.theme
             page: root.viewModel.currentPage
-            open: root.shown && root.viewModel.onboardingCompleted && !root.viewModel.showSettings
+            open: root.shown && page.wanted
+            fading: root.opacity > 0 && page.opacity > 0
             onMenuRequested: (tile, instanceId, kind, position) => root.menuRequested(tile, instanceId, kind, mapToItem(root, position))
         }
         WheelHandler {
             enabled: !root.viewModel.optionsOpen
             onWheel: event => {
-                const most = Math.max(0, parent.contentHeight - parent.height);
-                parent.contentY = Math.max(0, Math.min(most, parent.contentY - event.angleDelta.y / 2));
+                const most = Math.max(0, page.contentHeight - page.height);
+                page.contentY = Math.max(0, Math.min(most, page.contentY - event.angleDelta.y / 2));
             }
         }
     }
@@ -199,18 +254,27 @@ Item {
         opacity: root.galleryOpen ? 1 : 0
 
         Behavior on opacity {
+            id: curtain
+
+            readonly property bool opens: targetValue === 1
+
             NumberAnimation {
-                duration: Motion.fade.duration
-                easing: Motion.fade.easing
+                duration: curtain.opens ? Motion.panel.duration : Motion.fade.duration
+                easing: curtain.opens ? Motion.panel.easing : Motion.fade.easing
             }
         }
 
-        Rectangle {
+        // As large as the panel: it does not stay for the next time.
+        Loader {
             anchors.fill: parent
-            color: Qt.rgba(0, 0, 0, 0.55)
+            active: parent.visible
+            sourceComponent: NotchOutline {
+                filled: true
+                color: Qt.rgba(0, 0, 0, 0.55)
 
-            Tap {
-                onTapped: root.closeGallery()
+                Tap {
+                    onTapped: root.closeGallery() // qmllint disable unqualified
+                }
             }
         }
         WidgetGallery {

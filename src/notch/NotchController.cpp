@@ -11,6 +11,16 @@ QString boolText(bool value)
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
+QStringList localFiles(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+
 } // namespace
 
 NotchController::NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
@@ -83,6 +93,7 @@ void NotchController::subscribe()
     applyTransparency();
     onNextTurn(&m_grid, &GridStore::layoutChanged, [this] {
         clampCurrentPage();
+        clearLostFlip();
         resizeIfExpanded();
     });
     const auto sample = [this] { updateHistorySampling(); };
@@ -167,10 +178,18 @@ void NotchController::openSettings()
     m_viewModel.setShowSettings(true);
 }
 
-void NotchController::filesDropped()
+void NotchController::filesDropped(const QList<QUrl> &urls)
 {
+    const QStringList paths = localFiles(urls);
+    if (paths.isEmpty())
+        return;
     open();
-    m_log.trace(QStringLiteral("Files dropped on notch -> shelf (%1 items)").arg(0));
+    m_log.trace(QStringLiteral("Files dropped on notch -> shelf (%1 items)").arg(paths.size()));
+}
+
+bool NotchController::takesDrop(const QList<QUrl> &urls) const
+{
+    return !localFiles(urls).isEmpty();
 }
 
 void NotchController::requestClose()
@@ -340,6 +359,13 @@ void NotchController::updateHistorySampling()
     };
     m_sensors.history.setActive(m_viewModel.isExpanded() ||
                                 std::ranges::any_of(m_grid.layout().instances, drawsHistory));
+}
+
+void NotchController::clearLostFlip()
+{
+    const std::optional<QUuid> &flipped = m_viewModel.flippedWidgetID();
+    if (flipped && !m_grid.instance(*flipped))
+        m_viewModel.clearFlip();
 }
 
 void NotchController::clampCurrentPage()

@@ -27,6 +27,7 @@
 #include "update/UpdateService.h"
 
 #include <QObject>
+#include <QUrl>
 #include <QtQmlIntegration>
 
 namespace brimlight {
@@ -90,8 +91,10 @@ public:
     /// The callbacks of the root view; the status menu uses the same.
     Q_INVOKABLE void openSettings();
     Q_INVOKABLE void togglePin() { tapTogglePin(); }
-    Q_INVOKABLE void filesDropped();
+    Q_INVOKABLE void filesDropped(const QList<QUrl> &urls);
     Q_INVOKABLE void requestClose();
+    /// Whether any of what is dragged is a local file; nothing else is taken.
+    Q_INVOKABLE bool takesDrop(const QList<QUrl> &urls) const;
     /// The panel must not close while the gallery is open; closing it restores the pin.
     Q_INVOKABLE void openGallery();
     Q_INVOKABLE void closeGallery();
@@ -148,6 +151,8 @@ private:
     void resizeIfExpanded();
     int pageCount() const;
     void clampCurrentPage();
+    /// A tile that has left the layout has no back to show.
+    void clearLostFlip();
     /// The usage graph needs its history at once when the panel opens; anything else is sampled for eyes
     /// only.
     void updateHistorySampling();

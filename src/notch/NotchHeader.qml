@@ -109,6 +109,12 @@ Item {
                                 easing: Motion.dots.easing
                             }
                         }
+                        Behavior on color {
+                            ColorAnimation {
+                                duration: Motion.dots.duration
+                                easing: Motion.dots.easing
+                            }
+                        }
 
                         FocusRing {
                             target: capsule

@@ -11,25 +11,35 @@ AbstractButton {
     required property theme colors
     property bool tinted: false
     readonly property bool lit: hovered || keyed
+    // From 0 to 1, and for a moment beyond.
+    property real glow: lit ? 1 : 0
 
     label: help
     width: 24
     height: 24
-    scale: lit && !Motion.reduced ? 1.08 : 1
+    scale: Motion.reduced ? 1 : 1 + 0.08 * glow
 
-    Behavior on scale {
+    Behavior on glow {
         NumberAnimation {
             duration: Motion.headerHover.duration
             easing: Motion.headerHover.easing
         }
     }
 
+    DropShadow {
+        anchors.fill: parent
+        visible: opacity > 0
+        corner: 12
+        radius: 4
+        color: root.colors.accent
+        opacity: 0.25 * root.glow
+    }
     Rectangle {
         anchors.fill: parent
         radius: 12
-        color: Qt.rgba(1, 1, 1, root.lit ? 0.15 : 0.06)
+        color: Qt.rgba(1, 1, 1, 0.06 + 0.09 * root.glow)
         border.width: 0.8
-        border.color: Qt.rgba(1, 1, 1, root.lit ? 0.25 : 0.08)
+        border.color: Qt.rgba(1, 1, 1, 0.08 + 0.17 * root.glow)
     }
     FocusRing {
         border.color: root.colors.textPrimary
@@ -37,8 +47,16 @@ AbstractButton {
     Symbol {
         anchors.centerIn: parent
         name: root.systemImage
-        size: 11
+        size: 10
+        weight: Font.Bold
         color: root.tinted ? root.colors.accent : root.lit ? root.colors.textPrimary : root.colors.textSecondary
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Motion.headerHover.duration
+                easing: Motion.headerHover.easing
+            }
+        }
     }
     ToolTipLabel {
         text: root.help

@@ -12,6 +12,9 @@ Item {
     readonly property theme colors: controller.theme.current
     readonly property bool takesKeyboard: true
     readonly property bool live: controller.viewModel.isExpanded
+    // The step that is shown, and between two of them while one takes the other's place.
+    property real place: steps.current
+    readonly property real off: steps.current - place
 
     Accessible.role: Accessible.Dialog
     Accessible.name: title.text
@@ -20,11 +23,20 @@ Item {
         id: steps
     }
 
+    Behavior on place {
+        NumberAnimation {
+            duration: Motion.onboarding.duration
+            easing: Motion.onboarding.easing
+        }
+    }
+
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
+        anchors.horizontalCenterOffset: 40 * root.off
         anchors.top: parent.top
         anchors.topMargin: 8
         spacing: 12
+        opacity: 1 - Math.abs(root.off)
 
         Item {
             anchors.horizontalCenter: parent.horizontalCenter
@@ -56,13 +68,13 @@ Item {
                         from: 1
                         to: 1.15
                         duration: 2000
-                        easing.type: Easing.InOutQuad
+                        easing: Motion.easeInOut
                     }
                     NumberAnimation {
                         from: 1.15
                         to: 1
                         duration: 2000
-                        easing.type: Easing.InOutQuad
+                        easing: Motion.easeInOut
                     }
                 }
             }
@@ -76,6 +88,7 @@ Item {
                 anchors.centerIn: parent
                 name: steps.icon
                 size: 36
+                weight: Font.Bold
                 color: root.colors.accent
             }
         }
@@ -147,6 +160,12 @@ Item {
 
                 Behavior on width {
                     NumberAnimation {
+                        duration: Motion.onboarding.duration
+                        easing: Motion.onboarding.easing
+                    }
+                }
+                Behavior on color {
+                    ColorAnimation {
                         duration: Motion.onboarding.duration
                         easing: Motion.onboarding.easing
                     }

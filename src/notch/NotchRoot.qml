@@ -24,6 +24,8 @@ Item {
 
         GlassSurface {
             anchors.fill: parent
+            // Where nothing can shine through there is nothing to fade into.
+            opacity: root.controller.viewModel.isExpanded || backdrop === GlassSurface.Opaque ? 1 : 0
             theme: root.colors
             strength: root.controller.theme.glassStrength
             tinted: true
@@ -31,6 +33,13 @@ Item {
             bottomRadius: 32
             reduceTransparency: Motion.opaque
             backdrop: root.panel.backdrop
+
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Motion.panel.duration
+                    easing: Motion.panel.easing
+                }
+            }
         }
 
         // The bare surface, below everything that takes taps of its own.
@@ -78,11 +87,10 @@ Item {
     DropArea {
         anchors.fill: pane
         keys: ["text/uri-list"]
+        onEntered: drag => drag.accepted = root.controller.takesDrop(drag.urls)
         onDropped: drop => {
-            if (drop.hasUrls) {
-                drop.accept(Qt.CopyAction);
-                root.controller.filesDropped();
-            }
+            drop.accept(Qt.CopyAction);
+            root.controller.filesDropped(drop.urls);
         }
 
         NotchOutline {

@@ -24,8 +24,8 @@ QString cacheKey(const glass::TileLook &look, QSize pixels)
                       .arg(look.solid)
                       .arg(look.shadows)
                       .arg(look.strength);
-    for (const QColor &color :
-         {look.theme.accentColor(), look.theme.surfaceElevatedColor(), look.theme.separatorColor()})
+    for (const QColor &color : {look.theme.accentColor(), look.theme.surfaceColor(),
+                                look.theme.surfaceElevatedColor(), look.theme.separatorColor()})
         key += QLatin1Char(' ') + QString::number(static_cast<quint64>(color.rgba64()), 16);
     return key;
 }
@@ -41,11 +41,10 @@ QPixmap sharedTile(const glass::TileLook &look, QSize pixels)
     return pixmap;
 }
 
-/// The looks that are seen, in one rectangle each, fading by opacity.
-///
-/// Looks that come or go need a new node: the software renderer loses the place of a part that joins a node
-/// which has lost all of its parts before.
-class TileNode : public QSGNode
+/// The looks that are seen, in one rectangle each, fading by opacity. A transform without effect, since the
+/// software renderer knows the place of transforms but not of plain nodes, and looks it up when a part's
+/// opacity changes.
+class TileNode : public QSGTransformNode
 {
 public:
     void add(QQuickWindow &window, const QPixmap &pixmap)

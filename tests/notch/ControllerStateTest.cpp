@@ -129,10 +129,43 @@ TEST_F(State, DroppedFilesOpenAndPin)
 {
     start();
     lines();
-    controller->filesDropped();
+    controller->filesDropped({QUrl::fromLocalFile(QStringLiteral("/tmp/a")),
+                              QUrl(QStringLiteral("https://example.org/")),
+                              QUrl::fromLocalFile(QStringLiteral("/tmp/b c"))});
     EXPECT_TRUE(isExpanded());
     EXPECT_TRUE(model().isPinned());
-    EXPECT_EQ(lines().last(), QStringLiteral("Files dropped on notch -> shelf (0 items)"));
+    EXPECT_EQ(lines().last(), QStringLiteral("Files dropped on notch -> shelf (2 items)"));
+}
+
+TEST_F(State, TakesNothingThatIsNoLocalFile)
+{
+    start();
+    const QUrl file = QUrl::fromLocalFile(QStringLiteral("/tmp/a"));
+    const QUrl link(QStringLiteral("https://example.org/"));
+    EXPECT_FALSE(controller->takesDrop({}));
+    EXPECT_FALSE(controller->takesDrop({link}));
+    EXPECT_TRUE(controller->takesDrop({link, file}));
+    controller->filesDropped({link});
+    EXPECT_FALSE(isExpanded());
+    EXPECT_FALSE(model().isPinned());
+}
+
+TEST_F(State, ATileThatIsRemovedWhileItShowsItsBackLeavesNoOptionsOpen)
+{
+    start();
+    const WidgetInstance kept{.kind = QStringLiteral("gone"), .col = 0, .row = 0};
+    const WidgetInstance removed{.kind = QStringLiteral("gone"), .col = 1, .row = 0};
+    controller->grid()->setLayout({.instances = {kept, removed}});
+    model().setFlippedWidgetID(removed.id);
+    scheduler.runPosted();
+    EXPECT_TRUE(model().optionsOpen());
+    controller->grid()->remove(kept.id);
+    scheduler.runPosted();
+    EXPECT_EQ(model().flippedWidgetID(), removed.id);
+    controller->grid()->remove(removed.id);
+    scheduler.runPosted();
+    EXPECT_FALSE(model().flippedWidgetID());
+    EXPECT_FALSE(model().optionsOpen());
 }
 
 TEST_F(State, RequestCloseUnpinsAndCollapses)

@@ -130,4 +130,43 @@ TEST(GlassTileBackground, DrawsItsShadowsOutsideAndFadesBetweenItsLooks)
     EXPECT_EQ(green(below), 255);
 }
 
+TEST(GlassTileBackground, ASolidTileFollowsTheSurfaceOfItsTheme)
+{
+    QQuickWindow window;
+    window.setColor(Qt::white);
+    window.resize(120, 120);
+    GlassTileBackground tile(window.contentItem());
+    tile.setSolid(true);
+    tile.setSize({70, 70});
+    window.show();
+    Theme theme = Theme::midnight();
+    theme.surface = {0, 0, 0, 1};
+    tile.setTheme(theme);
+    const int dark = qRed(window.grabWindow().pixel(35, 35));
+    theme.surface.red = 1;
+    tile.setTheme(theme);
+    EXPECT_GT(qRed(window.grabWindow().pixel(35, 35)), dark + 50);
+}
+
+TEST(GlassTileBackground, StaysInItsPlaceWhileItFades)
+{
+    QQuickWindow window;
+    window.setColor(Qt::white);
+    window.resize(240, 240);
+    QQuickItem around(window.contentItem());
+    around.setPosition({120, 120});
+    GlassTileBackground tile(&around);
+    tile.setSize({70, 70});
+    window.show();
+    const auto isDark = [&](QPoint point) { return qRed(window.grabWindow().pixel(point)) < 200; };
+    EXPECT_TRUE(isDark({155, 155}));
+    // Nothing of the second look is seen at first.
+    for (const double level : {0.0001, 0.1, 0.9, 0.9999, 0.5, 0.0}) {
+        tile.setFocusLevel(level);
+        around.setScale(1 + 0.02 * level);
+        EXPECT_TRUE(isDark({155, 155})) << level;
+        EXPECT_FALSE(isDark({35, 35})) << level;
+    }
+}
+
 } // namespace brimlight::test
