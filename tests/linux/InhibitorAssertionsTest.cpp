@@ -119,7 +119,8 @@ protected:
     ScreenSaver saver{bus.address()};
     QObject context;
     int failures = 0;
-    InhibitorAssertions assertions{[address = bus.address()] { return newConnection(address); }, noBus};
+    InhibitorAssertions assertions{[address = bus.address()] { return newConnection(address); }, noBus,
+                                   std::chrono::seconds(1)};
 };
 
 } // namespace
@@ -176,6 +177,7 @@ TEST_F(InhibitorAssertionsTest, AServiceThatIsRestartedIsAskedAgain)
     ASSERT_TRUE(waitFor([&] { return saver.inhibited.contains(42); }));
     assertions.release(id);
     EXPECT_TRUE(waitFor([&] { return saver.inhibited.isEmpty(); }));
+    EXPECT_EQ(failures, 0);
 }
 
 TEST_F(InhibitorAssertionsTest, AServiceThatIsGoneForGoodIsAFailure)

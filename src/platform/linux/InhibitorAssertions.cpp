@@ -1,6 +1,7 @@
 #include "platform/linux/InhibitorAssertions.h"
 
 #include <QDBusMessage>
+#include <QTimer>
 
 namespace brimlight {
 namespace {
@@ -16,9 +17,10 @@ QDBusMessage screenSaverCall(const QString &method)
 
 } // namespace
 
-InhibitorAssertions::InhibitorAssertions(Open session, Open system)
+InhibitorAssertions::InhibitorAssertions(Open session, Open system, std::chrono::milliseconds patience)
     : m_openSession(std::move(session))
     , m_openSystem(std::move(system))
+    , m_patience(patience)
 {
 }
 
@@ -135,10 +137,14 @@ void InhibitorAssertions::ownerChanged(const QString &, const QString &, const Q
     for (auto &[id, held] : m_held) {
         // Cookies of a service that is gone mean nothing to the next one.
         held.cookie.reset();
-        if (now.isEmpty())
-            askLoginManager(id);
-        else
+        if (!now.isEmpty()) {
             askScreenSaver(id);
+            continue;
+        }
+        askLoginManager(id);
+        // That the service comes back is a question, too.
+        ++held.questions;
+        QTimer::singleShot(m_patience, this, [this, asked = id] { answered(asked); });
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <chrono>
 #include <map>
 
 namespace brimlight {
@@ -21,8 +22,12 @@ class InhibitorAssertions : public QObject, public PowerAssertions
 public:
     using Open = std::function<QDBusConnection()>;
 
+    /// For a service that is restarted to come back.
+    static constexpr std::chrono::milliseconds defaultPatience{5000};
+
     /// The buses are opened when they are first needed.
-    explicit InhibitorAssertions(Open session = sessionBus, Open system = systemBus);
+    explicit InhibitorAssertions(Open session = sessionBus, Open system = systemBus,
+                                 std::chrono::milliseconds patience = defaultPatience);
 
     uint32_t create(const QString &name, QObject &context, std::function<void()> failed) override;
     void release(uint32_t id) override;
@@ -53,6 +58,7 @@ private:
 
     Open m_openSession;
     Open m_openSystem;
+    std::chrono::milliseconds m_patience;
     /// Once they are connected.
     std::optional<QDBusConnection> m_session;
     std::map<uint32_t, Held> m_held;
