@@ -195,11 +195,13 @@ QSGNode *GlassTileBackground::updatePaintNode(QSGNode *old, UpdatePaintNodeData 
         const Side &side;
         double opacity;
     };
+    // What is solid must stay so while it fades.
+    const double plain = m_look.solid ? 1 : 1 - m_focusLevel;
     std::vector<Seen> seen;
     for (const bool focused : {false, true}) {
         const Side &side = m_sides.at(focused ? 1 : 0);
         if (!side.pixmap.isNull())
-            seen.push_back({side, focused ? m_focusLevel : 1 - m_focusLevel});
+            seen.push_back({side, focused ? m_focusLevel : plain});
     }
     auto *node = static_cast<TileNode *>(old);
     if (node && node->count() != seen.size()) {

@@ -59,6 +59,14 @@ TEST_P(Drop, OfAnythingElseIsRefused)
     EXPECT_TRUE(staysShut());
 }
 
+TEST_P(Drop, OfALinkIsRefused)
+{
+    DragSource source(session.display(), files, "https://example.org/\r\n");
+    source.dragTo(onStrip());
+    EXPECT_FALSE(source.drop());
+    EXPECT_TRUE(staysShut());
+}
+
 TEST_P(Drop, ElsewhereLeavesNoTrace)
 {
     DragSource source(session.display(), files, oneFile);

@@ -169,4 +169,22 @@ TEST(GlassTileBackground, StaysInItsPlaceWhileItFades)
     }
 }
 
+TEST(GlassTileBackground, ASolidTileLetsNothingThroughWhileItFades)
+{
+    QQuickWindow window;
+    window.resize(120, 120);
+    GlassTileBackground tile(window.contentItem());
+    tile.setSolid(true);
+    tile.setSize({70, 70});
+    window.show();
+    const auto middle = [&](const QColor &behind) {
+        window.setColor(behind);
+        return window.grabWindow().pixelColor(35, 35);
+    };
+    for (const double level : {0.0, 0.5, 1.0}) {
+        tile.setFocusLevel(level);
+        EXPECT_EQ(middle(Qt::white), middle(Qt::black)) << level;
+    }
+}
+
 } // namespace brimlight::test
