@@ -116,8 +116,6 @@ MotionCurve Motion::compute(Name name)
         return spring(0.3, 0.7);
     case Name::onboarding:
         return spring(0.3, 0.8);
-    case Name::gauge:
-        return spring(0.5, 0.8);
     case Name::hud:
         return spring(0.25, 0.8);
     case Name::rolling:
@@ -130,8 +128,6 @@ MotionCurve Motion::compute(Name name)
         return easedOut(200);
     case Name::change:
         return easedOut(250);
-    case Name::sweep:
-        return easedOut(450);
     case Name::count:
         break;
     }

@@ -54,14 +54,12 @@ class Motion : public QObject
     Q_PROPERTY(brimlight::MotionCurve entrance READ entrance NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve dots READ dots NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve onboarding READ onboarding NOTIFY changed)
-    Q_PROPERTY(brimlight::MotionCurve gauge READ gauge NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve hud READ hud NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve rolling READ rolling NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve quickFade READ quickFade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve fade READ fade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve hudFade READ hudFade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve change READ change NOTIFY changed)
-    Q_PROPERTY(brimlight::MotionCurve sweep READ sweep NOTIFY changed)
     Q_PROPERTY(QEasingCurve easeOut READ easeOut CONSTANT)
     Q_PROPERTY(QEasingCurve easeInOut READ easeInOut CONSTANT)
 
@@ -96,15 +94,13 @@ public:
     MotionCurve entrance() const { return curve(Name::entrance); }       ///< 0.35 0.7, tiles coming in
     MotionCurve dots() const { return curve(Name::dots); }               ///< 0.3 0.7, page dots
     MotionCurve onboarding() const { return curve(Name::onboarding); }   ///< 0.3 0.8, steps of the first run
-    MotionCurve gauge() const { return curve(Name::gauge); }             ///< 0.5 0.8, a gauge's value
     MotionCurve hud() const { return curve(Name::hud); }         ///< 0.25 0.8, the heads-up display coming in
     MotionCurve rolling() const { return curve(Name::rolling); } ///< 0.35 0.85, digits
     /// Ease-outs, with seconds.
     MotionCurve quickFade() const { return curve(Name::quickFade); } ///< 0.12
     MotionCurve fade() const { return curve(Name::fade); }           ///< 0.18, what closes
     MotionCurve hudFade() const { return curve(Name::hudFade); }     ///< 0.2, the heads-up display
-    MotionCurve change() const { return curve(Name::change); }       ///< 0.25, a chart's samples
-    MotionCurve sweep() const { return curve(Name::sweep); }         ///< 0.45, a gauge's first showing
+    MotionCurve change() const { return curve(Name::change); } ///< 0.25, what takes the place of something
 
     /// For a movement with a duration of its own. Who uses one asks `reduced`.
     QEasingCurve easeOut() const;
@@ -126,14 +122,12 @@ private:
         entrance,
         dots,
         onboarding,
-        gauge,
         hud,
         rolling,
         quickFade,
         fade,
         hudFade,
         change,
-        sweep,
         count
     };
 
