@@ -82,7 +82,9 @@ void WidgetHost::build()
     for (const QString &name : definition->stores)
         properties.insert(name, QVariant::fromValue(environment.stores.value(name)));
     QQmlComponent &component = m_catalog->component(*engine, url);
-    QObject *made = component.createWithInitialProperties(properties, qmlContext(this));
+    // Qt 6.4 does not survive the creation of what it could not load.
+    QObject *made =
+        component.isReady() ? component.createWithInitialProperties(properties, qmlContext(this)) : nullptr;
     m_view.reset(qobject_cast<QQuickItem *>(made));
     if (!m_view) {
         qWarning("widget view %s: %s", qPrintable(url.toString()), qPrintable(component.errorString()));

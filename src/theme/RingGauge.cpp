@@ -188,13 +188,27 @@ void RingGauge::draw(QPainter &painter, double devicePixelRatio)
     drawArc(painter, turn, devicePixelRatio);
 }
 
+QSizeF RingGauge::canvasSize() const
+{
+    return size() + QSizeF(2 * overhang(), 2 * overhang());
+}
+
+QImage RingGauge::canvas(double devicePixelRatio) const
+{
+    return transparentImage(canvasSize(), devicePixelRatio);
+}
+
+bool RingGauge::isCanvas(const QImage &image, double devicePixelRatio) const
+{
+    return image.devicePixelRatio() == devicePixelRatio &&
+           image.size() == (canvasSize() * devicePixelRatio).toSize();
+}
+
 void RingGauge::drawTrack(QPainter &painter, double devicePixelRatio)
 {
     const QPointF origin(-overhang(), -overhang());
-    const QSizeF points = size() + QSizeF(2 * overhang(), 2 * overhang());
-    if (m_trackRing.size() != (points * devicePixelRatio).toSize() ||
-        m_trackRing.devicePixelRatio() != devicePixelRatio) {
-        m_trackRing = transparentImage(points, devicePixelRatio);
+    if (!isCanvas(m_trackRing, devicePixelRatio)) {
+        m_trackRing = canvas(devicePixelRatio);
         QPainter ring(&m_trackRing);
         ring.setRenderHint(QPainter::Antialiasing);
         ring.translate(-origin);
@@ -236,7 +250,7 @@ void RingGauge::drawArc(QPainter &painter, double turn, double devicePixelRatio)
 
     // The round end lies over the start. It replaces what is below it, since both are translucent.
     const QPointF origin(-overhang(), -overhang());
-    QImage image = transparentImage(size() + QSizeF(2 * overhang(), 2 * overhang()), devicePixelRatio);
+    QImage image = canvas(devicePixelRatio);
     QPainter layer(&image);
     layer.setRenderHint(QPainter::Antialiasing);
     layer.translate(-origin);
@@ -257,8 +271,7 @@ void RingGauge::drawArc(QPainter &painter, double turn, double devicePixelRatio)
 void RingGauge::drawGlow(QPainter &painter, double turn, double devicePixelRatio)
 {
     const QPointF origin(-overhang(), -overhang());
-    const QSize pixels = ((size() + QSizeF(2 * overhang(), 2 * overhang())) * devicePixelRatio).toSize();
-    if (m_glowRing.size() != pixels || m_glowRing.devicePixelRatio() != devicePixelRatio) {
+    if (!isCanvas(m_glowRing, devicePixelRatio)) {
         m_glowRing = glowOfRing(devicePixelRatio);
         m_glowCap = glowOfCap(devicePixelRatio);
     }
@@ -299,7 +312,7 @@ void RingGauge::drawGlow(QPainter &painter, double turn, double devicePixelRatio
 
 QImage RingGauge::glowOfRing(double devicePixelRatio) const
 {
-    QImage image = transparentImage(size() + QSizeF(2 * overhang(), 2 * overhang()), devicePixelRatio);
+    QImage image = canvas(devicePixelRatio);
     const QPointF centre = circle().center() + QPointF(overhang(), overhang());
     fillPixels(image, m_tint, [&](QPointF at) {
         const QPointF arm = at - centre;

@@ -78,6 +78,10 @@ private:
     /// The angle in degrees by which a round cap stands out of the arc's end.
     double capDegrees() const;
     QBrush arcBrush() const;
+    /// The item with its overhang.
+    QSizeF canvasSize() const;
+    QImage canvas(double devicePixelRatio) const;
+    bool isCanvas(const QImage &image, double devicePixelRatio) const;
     void drawTrack(QPainter &painter, double devicePixelRatio);
     void drawArc(QPainter &painter, double turn, double devicePixelRatio);
     void drawGlow(QPainter &painter, double turn, double devicePixelRatio);

@@ -19,6 +19,18 @@ constexpr int mostAttempts = 7;
 /// The server makes it up while there is no device; its monitor is called after it.
 constexpr const char *dummyDevice = "auto_null";
 
+/// Whether something is heard or recorded with it: not what the server offers when there is nothing, nor what
+/// listens to an output, which stands in for a microphone where there is none.
+template<typename Info>
+bool isDevice(const Info &info)
+{
+    if constexpr (std::is_same_v<Info, pa_source_info>) {
+        if (info.monitor_of_sink != PA_INVALID_INDEX)
+            return false;
+    }
+    return !std::string_view(info.name).starts_with(dummyDevice);
+}
+
 } // namespace
 
 AudioDeviceState pulseState(const pa_cvolume &volume, bool isMuted)
@@ -283,18 +295,6 @@ void PulseSession::abandonQueries()
 {
     for (const Query &query : std::exchange(m_queries, {}))
         query.answered(std::nullopt);
-}
-
-/// Whether something is heard or recorded with it: not what the server offers when there is nothing, nor what
-/// listens to an output, which stands in for a microphone where there is none.
-template<typename Info>
-static bool isDevice(const Info &info)
-{
-    if constexpr (std::is_same_v<Info, pa_source_info>) {
-        if (info.monitor_of_sink != PA_INVALID_INDEX)
-            return false;
-    }
-    return !std::string_view(info.name).starts_with(dummyDevice);
 }
 
 template<typename Info>
