@@ -58,7 +58,7 @@ AbstractButton {
         anchors.verticalCenter: parent.verticalCenter
         x: 23
         text: root.text
-        color: root.destructive && !root.lit ? "#FF453A" : root.theme.current.textPrimary
+        color: root.lit ? root.theme.current.textOnAccent : root.destructive ? "#FF453A" : root.theme.current.textPrimary
         font.family: Fonts.rounded
         font.pixelSize: 12
     }

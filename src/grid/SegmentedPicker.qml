@@ -82,7 +82,7 @@ Item {
                         width: Math.min(implicitWidth, parent.width - 2)
                         elide: Text.ElideRight
                         text: segment.label
-                        color: segment.selected ? "white" : root.colors.textPrimary
+                        color: segment.selected ? root.colors.textOnAccent : root.colors.textPrimary
                         font.family: Fonts.rounded
                         font.pixelSize: 10
                         font.weight: Font.Medium

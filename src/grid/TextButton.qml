@@ -28,7 +28,7 @@ AbstractButton {
 
         anchors.centerIn: parent
         text: root.text
-        color: root.prominent ? "white" : root.colors.textPrimary
+        color: root.prominent ? root.colors.textOnAccent : root.colors.textPrimary
         font.family: Fonts.rounded
         font.pixelSize: 12
         font.weight: Font.DemiBold

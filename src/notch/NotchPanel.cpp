@@ -10,8 +10,9 @@ namespace brimlight {
 namespace {
 
 constexpr Spring frameSpring = Motion::panelSpring;
-// The corner of an outline that comes closest to a quarter of a circle of 10 points.
-constexpr double hudRadius = 11.7;
+// The corner of an outline that comes closest to a quarter of a circle of 10 points, which menus and the
+// heads-up display have.
+constexpr double circleRadius = 11.7;
 
 double mix(double from, double to, double progress)
 {
@@ -223,12 +224,12 @@ void NotchPanel::updateOutlines()
             {0, 0, m_displayed.width, m_displayed.height});
         outlines.push_back({.frame = m_displayed, .bottomRadius = radius, .blursBehind = m_blursBehind});
         for (const Rect &popover : m_popovers)
-            outlines.push_back({.frame = popover});
+            outlines.push_back({.frame = popover, .bottomRadius = circleRadius, .topRadius = circleRadius});
     }
     if (!m_hud.isEmpty())
         outlines.push_back({.frame = logical(m_hud),
-                            .bottomRadius = hudRadius,
-                            .topRadius = hudRadius,
+                            .bottomRadius = circleRadius,
+                            .topRadius = circleRadius,
                             .takesPointer = false});
     m_surface.setOutlines(outlines);
 }

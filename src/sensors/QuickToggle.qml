@@ -48,7 +48,7 @@ AbstractButton {
             anchors.centerIn: parent
             name: root.symbol
             size: disc.width * 0.42
-            color: root.on ? "white" : root.colors.textPrimary
+            color: root.on ? root.colors.textOnAccent : root.colors.textPrimary
         }
     }
     Text {

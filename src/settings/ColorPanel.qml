@@ -189,6 +189,7 @@ Rectangle {
                     clip: true
                     color: root.colors.textPrimary
                     selectionColor: root.colors.accent
+                    selectedTextColor: root.colors.textOnAccent
                     font.family: Fonts.monospaced
                     font.pixelSize: 11
                     activeFocusOnTab: true

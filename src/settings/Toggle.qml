@@ -54,7 +54,7 @@ AbstractButton {
             width: 14
             height: 14
             radius: 7
-            color: "white"
+            color: root.on ? root.colors.textOnAccent : "white"
             border.color: Qt.rgba(0, 0, 0, 0.18)
 
             Behavior on x {

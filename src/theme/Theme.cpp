@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace brimlight {
 namespace {
@@ -293,6 +294,24 @@ QColor ThemeColor::toColor() const
 size_t qHash(const ThemeColor &color, size_t seed)
 {
     return qHashMulti(seed, color.red, color.green, color.blue, color.opacity);
+}
+
+QColor Theme::textOnAccent() const
+{
+    // WCAG 2.1: relative luminance, and the contrast of two luminances.
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    const QColor over = accent.toColor();
+    const QColor under = surface.toColor();
+    const auto seen = [&](double channel, double below) {
+        return linear(below + (channel - below) * over.alphaF());
+    };
+    const double luminance = 0.2126 * seen(over.redF(), under.redF()) +
+                             0.7152 * seen(over.greenF(), under.greenF()) +
+                             0.0722 * seen(over.blueF(), under.blueF());
+    constexpr double enough = 3;
+    return (1 + 0.05) / (luminance + 0.05) >= enough ? Qt::white : Qt::black;
 }
 
 const QList<Theme> &Theme::builtIns()

@@ -45,6 +45,7 @@ struct Theme
     Q_PROPERTY(QString id MEMBER id)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QColor accent READ accentColor)
+    Q_PROPERTY(QColor textOnAccent READ textOnAccent)
     Q_PROPERTY(QColor surface READ surfaceColor)
     Q_PROPERTY(QColor surfaceElevated READ surfaceElevatedColor)
     Q_PROPERTY(QColor textPrimary READ textPrimaryColor)
@@ -70,6 +71,9 @@ public:
     bool operator==(const Theme &) const = default;
 
     QColor accentColor() const { return accent.toColor(); }
+    /// What can be read on `accent`: white, or black where white would stand out from it by less than 3 to 1,
+    /// the contrast that WCAG 2.1 (1.4.11) asks of controls.
+    QColor textOnAccent() const;
     QColor surfaceColor() const { return surface.toColor(); }
     QColor surfaceElevatedColor() const { return surfaceElevated.toColor(); }
     QColor textPrimaryColor() const { return textPrimary.toColor(); }

@@ -82,7 +82,7 @@ Item {
                     anchors.centerIn: parent
                     visible: cell.modelData.day > 0
                     text: cell.modelData.day
-                    color: cell.modelData.isToday ? "white" : root.colors.textPrimary
+                    color: cell.modelData.isToday ? root.colors.textOnAccent : root.colors.textPrimary
                     font.family: Fonts.rounded
                     font.pixelSize: 10
                     font.weight: cell.modelData.isToday ? Font.Bold : Font.Normal

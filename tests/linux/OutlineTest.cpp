@@ -69,6 +69,16 @@ TEST(OutlineRows, CountInPixelsOfTheScreen)
     EXPECT_EQ(rows[0].width, 100);
 }
 
+TEST(OutlineRows, EdgesBetweenPixelsGoToTheNearest)
+{
+    const auto rows = outlineRows({.frame = {100.4, 199.7, 49.4, 60.1}}, extent, 1);
+    ASSERT_EQ(rows.size(), 1u);
+    EXPECT_EQ(rows[0].x, 100);
+    EXPECT_EQ(rows[0].width, 50) << "from 100.4 to 149.8";
+    EXPECT_EQ(rows[0].y, 40) << "from 40.2 to 100.3";
+    EXPECT_EQ(rows[0].height, 60);
+}
+
 TEST(OutlineRows, AnEmptyFrameCoversNothing)
 {
     EXPECT_TRUE(outlineRows({.frame = {100, 200, 0, 60}}, extent, 1).empty());

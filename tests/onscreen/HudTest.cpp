@@ -83,8 +83,10 @@ TEST_P(Hud, GoesOneAndAHalfSecondsAfterTheLastChange)
 {
     ASSERT_TRUE(showsFirst());
     std::this_thread::sleep_for(milliseconds(1000));
-    ASSERT_TRUE(setVolume(u"80%"_s));
     const auto last = Clock::now();
+    ASSERT_TRUE(setVolume(u"80%"_s));
+    // A busy machine may have taken so long that it had gone.
+    ASSERT_TRUE(waitUntil([this] { return isSeen() && std::abs(filled() - 75) <= 2; })) << filled();
     ASSERT_TRUE(waitUntil([this] { return nothingIsSeen(); }));
     const auto seconds = std::chrono::duration<double>(Clock::now() - last).count();
     EXPECT_GT(seconds, 1.4);
@@ -101,6 +103,7 @@ TEST_P(Hud, LetsClicksThrough)
         return bare.pixel(place.center()) == Victim::color;
     }));
     ASSERT_TRUE(showsFirst());
+    ASSERT_TRUE(setVolume(u"70%"_s)) << "it stays as long as it can";
     EXPECT_TRUE(programWindowAt(place.center()));
     expectClicksReach(victim, {place.center(), place.topLeft() + QPoint(12, 12)});
     EXPECT_TRUE(isSeen());

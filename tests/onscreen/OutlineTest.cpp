@@ -85,6 +85,27 @@ TEST_P(Outline, TheOpenPanelIsSeenWithinItsRoundedOutline)
     EXPECT_TRUE(waitUntil([&] { return outlineIsSeen(*frame); }));
 }
 
+TEST_P(Outline, NeverFlashesInBlackWhileItOpens)
+{
+    constexpr QRgb black = qRgb(0, 0, 0);
+    const QRect area = surroundings();
+    double most = 0;
+    hand.clickAt(onStrip());
+    const auto begun = Clock::now();
+    while (Clock::now() - begun < bounded) {
+        const QImage now = x.screenshot();
+        int flashing = 0;
+        for (int row = area.top(); row <= area.bottom(); ++row) {
+            for (int column = area.left(); column <= area.right(); ++column)
+                flashing += now.pixel(column, row) == black && bare.pixel(column, row) != black;
+        }
+        most = std::max(most, static_cast<double>(flashing));
+    }
+    const auto frame = waitForOpen();
+    ASSERT_TRUE(frame);
+    EXPECT_LT(most / (frame->width() * frame->height()), 0.02);
+}
+
 TEST_P(Outline, NothingIsLeftAfterClosing)
 {
     ASSERT_TRUE(openByTap());

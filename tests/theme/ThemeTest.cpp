@@ -351,6 +351,25 @@ TEST(Theme, DefaultIsMidnight)
     EXPECT_EQ(Theme::defaultTheme().id, QStringLiteral("midnight"));
 }
 
+TEST(Theme, TextOnTheAccentCanBeRead)
+{
+    // 3.65, 3.5 and 4.6 to 1 in white.
+    for (const Theme *theme : {&Theme::midnight(), &Theme::rose(), &Theme::deepSpace()})
+        EXPECT_EQ(theme->textOnAccent(), QColor(Qt::white)) << theme->id.toStdString();
+    // 2.1, 1.5 and 1.2.
+    for (const Theme *theme : {&Theme::sand(), &Theme::sakura(), &Theme::obsidian()})
+        EXPECT_EQ(theme->textOnAccent(), QColor(Qt::black)) << theme->id.toStdString();
+}
+
+TEST(Theme, TextOnATranslucentAccentIsForWhatIsSeen)
+{
+    Theme theme = Theme::obsidian();
+    theme.accent.opacity = 0.2;
+    EXPECT_EQ(theme.textOnAccent(), QColor(Qt::white)) << "the dark surface shines through";
+    theme.surface = {1, 1, 1, 1};
+    EXPECT_EQ(theme.textOnAccent(), QColor(Qt::black));
+}
+
 TEST(Theme, IdsAndNamesAreTwoThings)
 {
     EXPECT_EQ(Theme::frosty().id, QStringLiteral("frosty"));

@@ -38,10 +38,11 @@ std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Re
                                          double devicePixelRatio)
 {
     const auto pixels = [&](double points) { return points * devicePixelRatio; };
-    const double left = std::floor(pixels(outline.frame.minX() - extent.minX()));
-    const double right = std::ceil(pixels(outline.frame.maxX() - extent.minX()));
-    const double top = std::floor(pixels(extent.maxY() - outline.frame.maxY()));
-    const double bottom = std::ceil(pixels(extent.maxY() - outline.frame.minY()));
+    // The pane is painted between whole pixels, too.
+    const double left = std::round(pixels(outline.frame.minX() - extent.minX()));
+    const double right = std::round(pixels(outline.frame.maxX() - extent.minX()));
+    const double top = std::round(pixels(extent.maxY() - outline.frame.maxY()));
+    const double bottom = std::round(pixels(extent.maxY() - outline.frame.minY()));
     if (right <= left || bottom <= top)
         return {};
     const auto row = [&](double y, double inset, double height) {
@@ -86,18 +87,16 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     , m_dragStatus(connection.atom("XdndStatus"))
     , m_listening(connection, [this](const xcb_generic_event_t &event) { return handle(event); })
 {
-    // New parts of a grown window are transparent until they are painted, instead of whatever memory held.
-    const uint32_t transparent = 0;
-    xcb_change_window_attributes(m_connection, static_cast<xcb_window_t>(m_window.winId()), XCB_CW_BACK_PIXEL,
-                                 &transparent);
     const xcb_atom_t type = m_connection.atom("_NET_WM_WINDOW_TYPE_DOCK");
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(m_window.winId()),
                         m_connection.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &type);
     m_window.installEventFilter(this);
     m_connection.observeComposited([this] {
+        applyBackground();
         applyShape();
         backdropMayHaveChanged();
     });
+    applyBackground();
     applyShape();
     m_backdrop = backdrop();
 }
@@ -326,6 +325,20 @@ void X11OverlaySurface::raise()
     xcb_configure_window(m_connection, static_cast<xcb_window_t>(m_window.winId()),
                          XCB_CONFIG_WINDOW_STACK_MODE, &above);
     m_connection.flush();
+}
+
+void X11OverlaySurface::applyBackground()
+{
+    const auto window = static_cast<xcb_window_t>(m_window.winId());
+    // A compositor reads new parts of a grown window before they are painted: transparent, instead of
+    // whatever memory held. Without one that is black, and the server would paint all of the window with it
+    // at every change of its shape.
+    const uint32_t transparent = 0;
+    const uint32_t none = XCB_BACK_PIXMAP_NONE;
+    if (m_connection.isXWayland() || m_connection.isComposited())
+        xcb_change_window_attributes(m_connection, window, XCB_CW_BACK_PIXEL, &transparent);
+    else
+        xcb_change_window_attributes(m_connection, window, XCB_CW_BACK_PIXMAP, &none);
 }
 
 void X11OverlaySurface::applyShape()

@@ -56,6 +56,8 @@ private:
     /// Whether the pointer is taken by anything that is drawn; else the strip feels it.
     bool feelsContent() const;
     void applyShape();
+    /// What the server paints by itself where something new of the window is seen.
+    void applyBackground();
     void backdropMayHaveChanged();
 
     QWindow &m_window;
