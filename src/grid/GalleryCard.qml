@@ -58,7 +58,7 @@ AbstractButton {
         y: 2
         visible: opacity > 0
         opacity: root.between(1, 0)
-        color: Qt.alpha(root.theme.current.accent, 0.02)
+        color: Qt.alpha(root.theme.shown.accent, 0.02)
         corner: 16
         radius: 4
     }
@@ -68,14 +68,14 @@ AbstractButton {
         y: 5
         visible: opacity > 0
         opacity: root.between(0, 1)
-        color: Qt.alpha(root.theme.current.accent, 0.1)
+        color: Qt.alpha(root.theme.shown.accent, 0.1)
         corner: 16
         radius: 10
     }
     Rectangle {
         anchors.fill: parent
         radius: 16
-        color: root.theme.current.surfaceElevated
+        color: root.theme.shown.surfaceElevated
     }
     Rectangle {
         anchors.fill: parent
@@ -88,7 +88,7 @@ AbstractButton {
             }
             GradientStop {
                 position: 1
-                color: Qt.alpha(root.theme.current.accent, root.between(0.03, 0.1))
+                color: Qt.alpha(root.theme.shown.accent, root.between(0.03, 0.1))
             }
         }
     }
@@ -116,7 +116,7 @@ AbstractButton {
 
                 GlassTileBackground {
                     anchors.fill: parent
-                    theme: root.theme.current
+                    theme: root.theme.shown
                     strength: root.theme.glassStrength
                     reduceTransparency: Motion.opaque
                 }
@@ -136,7 +136,7 @@ AbstractButton {
                         visible: !preview.hasView
                         name: root.entry.symbol
                         size: 26
-                        color: root.theme.current.textSecondary
+                        color: root.theme.shown.textSecondary
                     }
                 }
             }
@@ -154,7 +154,7 @@ AbstractButton {
 
                     anchors.centerIn: parent
                     text: root.entry.chip
-                    color: root.theme.current.textPrimary
+                    color: root.theme.shown.textPrimary
                     opacity: 0.82
                     font.family: Fonts.rounded
                     font.pixelSize: 9
@@ -171,12 +171,12 @@ AbstractButton {
                 name: root.entry.symbol
                 size: 10
                 weight: Font.DemiBold
-                color: root.theme.current.accent
+                color: root.theme.shown.accent
             }
             Text {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.entry.name
-                color: root.theme.current.textPrimary
+                color: root.theme.shown.textPrimary
                 font.family: Fonts.rounded
                 font.pixelSize: 11
                 font.weight: Font.DemiBold
@@ -186,7 +186,7 @@ AbstractButton {
             height: 10
             verticalAlignment: Text.AlignVCenter
             text: root.entry.sizes
-            color: root.theme.current.textSecondary
+            color: root.theme.shown.textSecondary
             font.family: Fonts.rounded
             font.pixelSize: 8
         }
@@ -195,6 +195,6 @@ AbstractButton {
     FocusRing {
         corner: 16
         gap: 0
-        border.color: root.theme.current.textPrimary
+        border.color: root.theme.shown.textPrimary
     }
 }

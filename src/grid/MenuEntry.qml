@@ -41,7 +41,7 @@ AbstractButton {
     Rectangle {
         anchors.fill: parent
         radius: 6
-        color: root.theme.current.accent
+        color: root.theme.shown.accent
         visible: root.lit
     }
     Symbol {
@@ -58,7 +58,7 @@ AbstractButton {
         anchors.verticalCenter: parent.verticalCenter
         x: 23
         text: root.text
-        color: root.lit ? root.theme.current.textOnAccent : root.destructive ? "#FF453A" : root.theme.current.textPrimary
+        color: root.lit ? root.theme.shown.textOnAccent : root.destructive ? "#FF453A" : root.theme.shown.textPrimary
         font.family: Fonts.rounded
         font.pixelSize: 12
     }

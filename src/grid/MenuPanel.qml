@@ -24,7 +24,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 10
-        color: Qt.rgba(root.theme.current.surface.r + 0.07, root.theme.current.surface.g + 0.07, root.theme.current.surface.b + 0.07, 1)
+        color: Qt.rgba(root.theme.shown.surface.r + 0.07, root.theme.shown.surface.g + 0.07, root.theme.shown.surface.b + 0.07, 1)
         border.color: Qt.rgba(1, 1, 1, 0.14)
     }
     // Clicks between the entries must not reach what lies below.

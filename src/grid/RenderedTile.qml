@@ -17,7 +17,7 @@ Item {
     GlassTileBackground {
         anchors.fill: parent
         anchors.margins: 2
-        theme: root.theme.current
+        theme: root.theme.shown
         strength: root.theme.glassStrength
         reduceTransparency: false
     }
@@ -36,7 +36,7 @@ Item {
             visible: !front.hasView
             name: "questionmark.circle"
             size: 22
-            color: root.theme.current.textSecondary
+            color: root.theme.shown.textSecondary
         }
     }
 }

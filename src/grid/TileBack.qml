@@ -64,7 +64,7 @@ Item {
         anchors.centerIn: parent
         visible: !settings.hasView
         text: "Settings coming soon"
-        color: root.theme.current.textSecondary
+        color: root.theme.shown.textSecondary
         font.pixelSize: 11
         font.weight: Font.Medium
     }
@@ -79,7 +79,7 @@ Item {
         symbolSize: 10
         weight: Font.Bold
         label: qsTr("Close")
-        color: root.theme.current.textPrimary
+        color: root.theme.shown.textPrimary
         opacity: 0.8
         onClicked: root.closeRequested()
     }

@@ -83,7 +83,7 @@ FocusScope {
             width: parent.width
             height: 1
             visible: root.catalog.hasSettings(root.kind)
-            color: root.theme.current.separator
+            color: root.theme.shown.separator
         }
         MenuEntry {
             id: sizeEntry

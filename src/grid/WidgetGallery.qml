@@ -34,7 +34,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 22
-        color: root.theme.current.surface
+        color: root.theme.shown.surface
     }
     Tap {}
 
@@ -44,7 +44,7 @@ Item {
         x: 32
         y: 16
         text: "Add a widget"
-        color: root.theme.current.textPrimary
+        color: root.theme.shown.textPrimary
         font.family: Fonts.rounded
         font.pixelSize: 15
         font.weight: Font.DemiBold
@@ -64,13 +64,13 @@ Item {
         symbol: "xmark.circle.fill"
         symbolSize: 17
         label: qsTr("Close")
-        color: root.theme.current.textSecondary
+        color: root.theme.shown.textSecondary
         onClicked: root.closed()
 
         ToolTipLabel {
             text: close.label
             shown: close.hovered || close.keyed
-            colors: root.theme.current
+            colors: root.theme.shown
             anchors.top: parent.bottom
             anchors.topMargin: 4
             anchors.right: parent.right

@@ -176,7 +176,7 @@ Item {
 
     GlassTileBackground {
         anchors.fill: parent
-        theme: root.theme.current
+        theme: root.theme.shown
         strength: root.theme.glassStrength
         focusLevel: hover.hovered ? 1 : 0
         solid: root.isOneRow && root.angle > 0
@@ -206,14 +206,14 @@ Item {
             visible: !front.hasView
             name: "questionmark.circle"
             size: 22
-            color: root.theme.current.textSecondary
+            color: root.theme.shown.textSecondary
         }
     }
 
     FocusRing {
         corner: 22
         gap: 0
-        border.color: root.theme.current.textPrimary
+        border.color: root.theme.shown.textPrimary
     }
 
     Loader {

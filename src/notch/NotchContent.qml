@@ -11,7 +11,7 @@ Item {
 
     required property NotchController controller
     readonly property NotchViewModel viewModel: controller.viewModel
-    readonly property theme colors: controller.theme.current
+    readonly property theme colors: controller.theme.shown
     readonly property bool shown: viewModel.isExpanded
     readonly property real topInset: viewModel.collapsedHeight + 8
     property bool galleryOpen: false

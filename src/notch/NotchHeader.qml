@@ -12,7 +12,7 @@ Item {
     required property NotchController controller
     readonly property NotchViewModel viewModel: controller.viewModel
     readonly property SystemStatusMonitor status: controller.statusMonitor
-    readonly property theme colors: controller.theme.current
+    readonly property theme colors: controller.theme.shown
     readonly property alias galleryButton: add
     readonly property alias settingsButton: gear
 

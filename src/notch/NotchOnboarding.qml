@@ -9,7 +9,7 @@ Item {
     id: root
 
     required property NotchController controller
-    readonly property theme colors: controller.theme.current
+    readonly property theme colors: controller.theme.shown
     readonly property bool takesKeyboard: true
     readonly property bool live: controller.viewModel.isExpanded
     // The step that is shown, and between two of them while one takes the other's place.

@@ -11,7 +11,7 @@ Item {
 
     required property NotchController controller
     readonly property NotchPanel panel: controller.panel
-    readonly property theme colors: controller.theme.current
+    readonly property theme colors: controller.theme.shown
 
     Item {
         id: pane

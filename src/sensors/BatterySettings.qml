@@ -9,7 +9,7 @@ Column {
 
     required property WidgetContext context
     required property MachinePorts machine
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
 
     spacing: 6
 

@@ -9,7 +9,7 @@ Item {
 
     required property WidgetContext context
     required property SwitchPorts switches
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
     readonly property bool isSmall: context.size === "small"
     readonly property bool isLarge: context.size === "large"
 

@@ -10,7 +10,7 @@ Item {
     required property WidgetContext context
     required property MachinePorts machine
     required property TemperatureService temperature
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
     readonly property bool isWide: context.size === "wide"
 
     TemperatureFace {

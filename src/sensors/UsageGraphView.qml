@@ -9,7 +9,7 @@ Item {
 
     required property WidgetContext context
     required property SystemHistoryStore systemHistory
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
     readonly property bool isOneRow: context.size === "wide" || context.size === "banner"
 
     UsageGraphFace {

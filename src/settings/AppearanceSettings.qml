@@ -9,7 +9,7 @@ ScrollArea {
 
     required property ThemeStore theme
 
-    colors: theme.current
+    colors: theme.shown
 
     ThemeChoices {
         id: choices
@@ -68,7 +68,7 @@ ScrollArea {
             label: qsTr("Theme Presets")
             theme: root.theme
             marked: choices.marked
-            onChosen: id => root.theme.selectPalette(id)
+            onChosen: id => root.theme.fadeToPalette(id, Motion.selection)
         }
         Item {
             width: parent.width

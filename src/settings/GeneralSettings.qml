@@ -15,7 +15,7 @@ ScrollArea {
     // Where menus open.
     required property Item overlay
 
-    colors: theme.current
+    colors: theme.shown
 
     SettingsChoices {
         id: choices

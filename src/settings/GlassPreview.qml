@@ -6,7 +6,7 @@ Rectangle {
     id: root
 
     required property ThemeStore theme
-    readonly property theme colors: theme.current
+    readonly property theme colors: theme.shown
 
     implicitHeight: 116
     radius: 10

@@ -13,7 +13,7 @@ Item {
     required property int current
     required property Item overlay
     required property ThemeStore theme
-    readonly property theme colors: theme.current
+    readonly property theme colors: theme.shown
     readonly property string text: options[current] ?? ""
 
     signal chosen(int index)

@@ -40,7 +40,7 @@ Grid {
             activeFocusOnTab: activeFocus || index === root.entry
             preset: modelData
             marked: index === root.marked
-            colors: root.theme.current
+            colors: root.theme.shown
             Keys.onLeftPressed: root.focusOn(index - 1)
             Keys.onRightPressed: root.focusOn(index + 1)
             Keys.onUpPressed: root.focusOn(index - root.columns)

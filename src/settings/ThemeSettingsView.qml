@@ -40,14 +40,14 @@ Item {
             title: qsTr("General")
             symbol: "gearshape"
             active: root.activeTab === 0
-            colors: root.theme.current
+            colors: root.theme.shown
             onClicked: root.activeTab = 0
         }
         SettingsTab {
             title: qsTr("Appearance")
             symbol: "paintpalette"
             active: root.activeTab === 1
-            colors: root.theme.current
+            colors: root.theme.shown
             onClicked: root.activeTab = 1
         }
     }

@@ -314,6 +314,19 @@ QColor Theme::textOnAccent() const
     return (1 + 0.05) / (luminance + 0.05) >= enough ? Qt::white : Qt::black;
 }
 
+Theme Theme::mixed(const Theme &from, const Theme &to, double progress)
+{
+    Theme mixed = to;
+    for (ThemeColor Theme::*field : {&Theme::accent, &Theme::surface, &Theme::surfaceElevated,
+                                     &Theme::textPrimary, &Theme::textSecondary, &Theme::separator}) {
+        const ThemeColor &a = from.*field;
+        const ThemeColor &b = to.*field;
+        mixed.*field = {std::lerp(a.red, b.red, progress), std::lerp(a.green, b.green, progress),
+                        std::lerp(a.blue, b.blue, progress), std::lerp(a.opacity, b.opacity, progress)};
+    }
+    return mixed;
+}
+
 const QList<Theme> &Theme::builtIns()
 {
     static const QList<Theme> themes = [] {

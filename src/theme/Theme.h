@@ -80,6 +80,9 @@ public:
     QColor textSecondaryColor() const { return textSecondary.toColor(); }
     QColor separatorColor() const { return separator.toColor(); }
 
+    /// On the way from one to the other, at `progress` from 0 to 1; a spring goes a little beyond.
+    static Theme mixed(const Theme &from, const Theme &to, double progress);
+
     static QString customId() { return QStringLiteral("custom"); }
     static QString customName() { return QStringLiteral("Custom"); }
 

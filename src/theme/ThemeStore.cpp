@@ -32,14 +32,22 @@ ThemeStore::ThemeStore(const QString &filePath, UserDefaults &defaults, Log &log
     , m_defaults(defaults)
     , m_log(log)
     , m_current(load(m_file).value_or(Theme::defaultTheme()))
+    , m_shown(m_current)
     , m_glassStrength(defaults.read<double>(glassStrengthKey()).value_or(defaultGlassStrength))
 {
+    m_fade.setStartValue(0.0);
+    m_fade.setEndValue(1.0);
+    connect(&m_fade, &QVariantAnimation::valueChanged, this, [this](const QVariant &progress) {
+        show(Theme::mixed(m_fadeStart, m_current, progress.toDouble()));
+    });
 }
 
 void ThemeStore::setCurrent(const Theme &theme)
 {
+    m_fade.stop();
     m_current = theme;
     Q_EMIT currentChanged();
+    show(m_current);
     save();
 }
 
@@ -48,6 +56,25 @@ void ThemeStore::selectPalette(const QString &id)
     const auto found = std::ranges::find(builtIns(), id, &Theme::id);
     if (found != builtIns().end())
         setCurrent(*found);
+}
+
+void ThemeStore::fadeToPalette(const QString &id, const MotionCurve &curve)
+{
+    const Theme start = m_shown;
+    selectPalette(id);
+    if (curve.duration == 0 || start == m_current)
+        return;
+    m_fadeStart = start;
+    show(start);
+    m_fade.setDuration(curve.duration);
+    m_fade.setEasingCurve(curve.easing);
+    m_fade.start();
+}
+
+void ThemeStore::show(const Theme &theme)
+{
+    m_shown = theme;
+    Q_EMIT shownChanged();
 }
 
 void ThemeStore::reset()

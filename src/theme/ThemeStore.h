@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/WholeFile.h"
+#include "theme/Motion.h"
 #include "theme/Theme.h"
 
 #include <QObject>
+#include <QVariantAnimation>
 #include <QtQmlIntegration>
 
 namespace brimlight {
@@ -23,6 +25,7 @@ class ThemeStore : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("owned by the controller")
     Q_PROPERTY(brimlight::Theme current READ current WRITE setCurrent NOTIFY currentChanged)
+    Q_PROPERTY(brimlight::Theme shown READ shown NOTIFY shownChanged)
     Q_PROPERTY(double glassStrength READ glassStrength WRITE setGlassStrength NOTIFY glassStrengthChanged)
     Q_PROPERTY(QList<brimlight::Theme> builtIns READ builtIns CONSTANT)
 
@@ -38,8 +41,12 @@ public:
     const Theme &current() const { return m_current; }
     /// Saves. A write that fails is logged; the theme holds nevertheless.
     void setCurrent(const Theme &theme);
+    /// What is drawn with: `current`, or what is on the way to it.
+    const Theme &shown() const { return m_shown; }
     /// Takes the preset with exactly this id; nothing happens when there is none.
     Q_INVOKABLE void selectPalette(const QString &id);
+    /// The same, and `shown` follows on the curve.
+    Q_INVOKABLE void fadeToPalette(const QString &id, const brimlight::MotionCurve &curve);
     /// Back to the default theme; the strength of the glass stays.
     Q_INVOKABLE void reset();
 
@@ -57,9 +64,11 @@ public:
 
 Q_SIGNALS:
     void currentChanged();
+    void shownChanged();
     void glassStrengthChanged();
 
 private:
+    void show(const Theme &theme);
     void replace(ThemeColor Theme::*field, const QColor &color);
     void save();
 
@@ -67,6 +76,10 @@ private:
     UserDefaults &m_defaults;
     Log &m_log;
     Theme m_current;
+    Theme m_shown;
+    /// From 0 to 1 while `shown` goes from `m_fadeStart` to `current`.
+    QVariantAnimation m_fade;
+    Theme m_fadeStart;
     double m_glassStrength;
 };
 

@@ -8,7 +8,7 @@ AnalogClockFace {
     id: root
 
     required property WidgetContext context
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
 
     now: context.ticker.now
     primary: colors.textPrimary

@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property WidgetContext context
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
     readonly property real cellWidth: (width - 6 * 2) / 7
     readonly property int rows: Math.ceil(calendar.cells.length / 7)
     readonly property real headerHeight: title.visible ? title.height + 3 : 0

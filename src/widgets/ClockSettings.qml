@@ -8,7 +8,7 @@ Column {
     id: root
 
     required property WidgetContext context
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
 
     spacing: 6
 

@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property WidgetContext context
-    readonly property theme colors: context.theme.current
+    readonly property theme colors: context.theme.shown
     readonly property string family: clock.font === "monospaced" ? Fonts.monospaced : clock.font === "serif" ? Fonts.serif : Fonts.rounded
 
     ClockFace {

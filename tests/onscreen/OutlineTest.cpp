@@ -94,6 +94,9 @@ TEST_P(Outline, NeverFlashesInBlackWhileItOpens)
     const auto begun = Clock::now();
     while (Clock::now() - begun < bounded) {
         const QImage now = x.screenshot();
+        // A compositor that has just started blanks the whole screen once.
+        if (now.pixel(away()) != bare.pixel(away()))
+            continue;
         int flashing = 0;
         for (int row = area.top(); row <= area.bottom(); ++row) {
             for (int column = area.left(); column <= area.right(); ++column)

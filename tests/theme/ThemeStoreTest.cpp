@@ -1,6 +1,7 @@
 #include "theme/ThemeStore.h"
 
 #include "fakes/Fakes.h"
+#include "fakes/HandDriver.h"
 
 #include <gtest/gtest.h>
 
@@ -363,6 +364,65 @@ TEST_F(ThemeStoreTest, AThemeThatJsonCannotSayIsLoggedAndNotWritten)
     EXPECT_TRUE(files().isEmpty());
     ASSERT_EQ(log.entries.size(), 1U);
     EXPECT_EQ(log.entries[0].message, QStringLiteral("Failed to save theme: a colour is not a number"));
+}
+
+TEST_F(ThemeStoreTest, AFadeTakesThePresetAtOnceAndShowsTheWay)
+{
+    HandDriver time;
+    start();
+    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
+    store->fadeToPalette(QStringLiteral("ocean"), curve);
+    EXPECT_EQ(store->current(), Theme::ocean());
+    EXPECT_EQ(written(), oceanJson);
+    EXPECT_EQ(store->shown().accent, Theme::midnight().accent);
+
+    time.advanceBy(std::chrono::milliseconds(100));
+    const Theme half = store->shown();
+    EXPECT_NEAR(half.accent.red, (Theme::midnight().accent.red + Theme::ocean().accent.red) / 2, 1e-9);
+    EXPECT_NEAR(half.separator.opacity, 0.12, 1e-9);
+    time.advanceBy(std::chrono::milliseconds(100));
+    EXPECT_EQ(store->shown(), Theme::ocean());
+}
+
+TEST_F(ThemeStoreTest, AFadeGoesOnFromWhatIsShown)
+{
+    HandDriver time;
+    start();
+    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
+    store->fadeToPalette(QStringLiteral("ocean"), curve);
+    time.advanceBy(std::chrono::milliseconds(100));
+    const ThemeColor half = store->shown().accent;
+    store->fadeToPalette(QStringLiteral("rose"), curve);
+    EXPECT_EQ(store->shown().accent, half);
+    time.advanceBy(std::chrono::milliseconds(200));
+    EXPECT_EQ(store->shown(), Theme::rose());
+}
+
+TEST_F(ThemeStoreTest, AColourOrAResetEndsAFade)
+{
+    HandDriver time;
+    start();
+    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
+    store->fadeToPalette(QStringLiteral("ocean"), curve);
+    time.advanceBy(std::chrono::milliseconds(100));
+    store->setAccent(Qt::red);
+    EXPECT_EQ(store->shown(), store->current());
+    store->fadeToPalette(QStringLiteral("rose"), curve);
+    store->reset();
+    EXPECT_EQ(store->shown(), Theme::midnight());
+    time.advanceBy(std::chrono::milliseconds(300));
+    EXPECT_EQ(store->shown(), Theme::midnight());
+}
+
+TEST_F(ThemeStoreTest, WithoutMotionAndForAnUnknownPresetNothingFades)
+{
+    HandDriver time;
+    start();
+    store->fadeToPalette(QStringLiteral("ocean"), MotionCurve());
+    EXPECT_EQ(store->shown(), Theme::ocean());
+    store->fadeToPalette(QStringLiteral("none"), {.duration = 200, .easing = {}});
+    EXPECT_EQ(store->shown(), Theme::ocean());
+    EXPECT_EQ(store->current(), Theme::ocean());
 }
 
 } // namespace brimlight::test
