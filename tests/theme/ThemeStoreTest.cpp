@@ -51,6 +51,13 @@ protected:
     std::optional<ThemeStore> store;
 };
 
+class ThemeFade : public ThemeStoreTest
+{
+protected:
+    HandDriver time;
+    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
+};
+
 } // namespace
 
 TEST_F(ThemeStoreTest, FirstStartIsMidnightAndWritesNothing)
@@ -366,11 +373,9 @@ TEST_F(ThemeStoreTest, AThemeThatJsonCannotSayIsLoggedAndNotWritten)
     EXPECT_EQ(log.entries[0].message, QStringLiteral("Failed to save theme: a colour is not a number"));
 }
 
-TEST_F(ThemeStoreTest, AFadeTakesThePresetAtOnceAndShowsTheWay)
+TEST_F(ThemeFade, TakesThePresetAtOnceAndShowsTheWay)
 {
-    HandDriver time;
     start();
-    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
     store->fadeToPalette(QStringLiteral("ocean"), curve);
     EXPECT_EQ(store->current(), Theme::ocean());
     EXPECT_EQ(written(), oceanJson);
@@ -384,11 +389,9 @@ TEST_F(ThemeStoreTest, AFadeTakesThePresetAtOnceAndShowsTheWay)
     EXPECT_EQ(store->shown(), Theme::ocean());
 }
 
-TEST_F(ThemeStoreTest, AFadeGoesOnFromWhatIsShown)
+TEST_F(ThemeFade, GoesOnFromWhatIsShown)
 {
-    HandDriver time;
     start();
-    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
     store->fadeToPalette(QStringLiteral("ocean"), curve);
     time.advanceBy(std::chrono::milliseconds(100));
     const ThemeColor half = store->shown().accent;
@@ -398,11 +401,9 @@ TEST_F(ThemeStoreTest, AFadeGoesOnFromWhatIsShown)
     EXPECT_EQ(store->shown(), Theme::rose());
 }
 
-TEST_F(ThemeStoreTest, AColourOrAResetEndsAFade)
+TEST_F(ThemeFade, EndsWithAColourOrAReset)
 {
-    HandDriver time;
     start();
-    const MotionCurve curve{.duration = 200, .easing = QEasingCurve(QEasingCurve::Linear)};
     store->fadeToPalette(QStringLiteral("ocean"), curve);
     time.advanceBy(std::chrono::milliseconds(100));
     store->setAccent(Qt::red);
@@ -414,13 +415,12 @@ TEST_F(ThemeStoreTest, AColourOrAResetEndsAFade)
     EXPECT_EQ(store->shown(), Theme::midnight());
 }
 
-TEST_F(ThemeStoreTest, WithoutMotionAndForAnUnknownPresetNothingFades)
+TEST_F(ThemeFade, WithoutMotionAndForAnUnknownPresetNothingFades)
 {
-    HandDriver time;
     start();
     store->fadeToPalette(QStringLiteral("ocean"), MotionCurve());
     EXPECT_EQ(store->shown(), Theme::ocean());
-    store->fadeToPalette(QStringLiteral("none"), {.duration = 200, .easing = {}});
+    store->fadeToPalette(QStringLiteral("none"), curve);
     EXPECT_EQ(store->shown(), Theme::ocean());
     EXPECT_EQ(store->current(), Theme::ocean());
 }
