@@ -2,8 +2,8 @@
 //
 // Setting a preference is written through to the disk: its time is that of the file system behind TMPDIR.
 
-#include "platform/linux/JsonUserDefaults.h"
-#include "platform/linux/X11OverlaySurface.h"
+#include "platform/linux/files/JsonUserDefaults.h"
+#include "platform/linux/x11/X11OverlaySurface.h"
 #include "theme/NotchShape.h"
 #include "theme/Spring.h"
 

@@ -6,7 +6,7 @@
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
 #include "fixtures/machines.h"
-#include "platform/linux/HwmonSmc.h"
+#include "platform/linux/kernel/HwmonSmc.h"
 #include "sensors/SMCBridge.h"
 
 #include <benchmark/benchmark.h>

@@ -46,24 +46,7 @@
 #include "widgets/WindowSnapperWidget.h"
 #include "widgets/WorldClockWidget.h"
 
-// Static libraries: naming the registrations keeps the linker from dropping them.
-void qml_register_types_Brimlight_Core();
-void qml_register_types_Brimlight_Theme();
-void qml_register_types_Brimlight_Grid();
-void qml_register_types_Brimlight_Sensors();
-void qml_register_types_Brimlight_Widgets();
-
 namespace brimlight {
-namespace {
-
-using Registration = void (*)();
-[[gnu::used]] const Registration registrations[] = {
-    &qml_register_types_Brimlight_Core, &qml_register_types_Brimlight_Theme,
-    &qml_register_types_Brimlight_Grid, &qml_register_types_Brimlight_Sensors,
-    &qml_register_types_Brimlight_Widgets};
-
-} // namespace
-
 std::vector<WidgetDefinition> allWidgets()
 {
     return {

@@ -3,8 +3,8 @@
 #include "app/AppDelegate.h"
 #include "app/RunningInstance.h"
 #include "app/WidgetRenderHarness.h"
-#include "platform/linux/DisplayServer.h"
-#include "platform/linux/JournalLog.h"
+#include "platform/linux/process/JournalLog.h"
+#include "platform/linux/x11/DisplayServer.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>

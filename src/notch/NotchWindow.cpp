@@ -6,22 +6,8 @@
 
 #include <algorithm>
 
-// Static libraries: naming the registrations keeps the linker from dropping them.
-void qml_register_types_Brimlight_Core();
-void qml_register_types_Brimlight_Theme();
-void qml_register_types_Brimlight_Grid();
-void qml_register_types_Brimlight_Update();
-void qml_register_types_Brimlight_Settings();
-void qml_register_types_Brimlight_Notch();
-
 namespace brimlight {
 namespace {
-
-using Registration = void (*)();
-[[gnu::used]] const Registration registrations[] = {
-    &qml_register_types_Brimlight_Core,     &qml_register_types_Brimlight_Theme,
-    &qml_register_types_Brimlight_Grid,     &qml_register_types_Brimlight_Update,
-    &qml_register_types_Brimlight_Settings, &qml_register_types_Brimlight_Notch};
 
 bool takesText(const QQuickItem &item)
 {

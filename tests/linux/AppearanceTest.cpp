@@ -1,4 +1,4 @@
-#include "platform/linux/DesktopAppearance.h"
+#include "platform/linux/dbus/DesktopAppearance.h"
 
 #include "fakes/ManualScheduler.h"
 #include "fakes/PrivateBus.h"

@@ -1,4 +1,4 @@
-#include "platform/linux/BacklightBrightness.h"
+#include "platform/linux/kernel/BacklightBrightness.h"
 
 #include <gtest/gtest.h>
 

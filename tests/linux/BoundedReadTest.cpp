@@ -1,4 +1,4 @@
-#include "platform/linux/BoundedRead.h"
+#include "platform/linux/process/BoundedRead.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/JsonUserDefaults.h"
+#include "platform/linux/files/JsonUserDefaults.h"
 
 #include <gtest/gtest.h>
 

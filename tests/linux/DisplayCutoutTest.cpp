@@ -1,6 +1,6 @@
-#include "platform/linux/DisplayCutout.h"
+#include "platform/linux/screens/DisplayCutout.h"
 
-#include "platform/linux/QtScreens.h"
+#include "platform/linux/screens/QtScreens.h"
 
 #include <gtest/gtest.h>
 

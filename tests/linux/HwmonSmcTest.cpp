@@ -1,4 +1,4 @@
-#include "platform/linux/HwmonSmc.h"
+#include "platform/linux/kernel/HwmonSmc.h"
 
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"

@@ -1,4 +1,4 @@
-#include "platform/linux/InhibitorAssertions.h"
+#include "platform/linux/dbus/InhibitorAssertions.h"
 
 #include "fakes/PrivateBus.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/JournalLog.h"
+#include "platform/linux/process/JournalLog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/KeptAnswer.h"
+#include "platform/linux/process/KeptAnswer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/LinuxHostStatistics.h"
+#include "platform/linux/kernel/LinuxHostStatistics.h"
 
 #include "fixtures/machines.h"
 #include "sensors/DiskReader.h"

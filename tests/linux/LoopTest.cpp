@@ -1,5 +1,5 @@
-#include "platform/linux/PipeUnixSignals.h"
-#include "platform/linux/QtScheduler.h"
+#include "platform/linux/process/PipeUnixSignals.h"
+#include "platform/linux/process/QtScheduler.h"
 
 #include <gtest/gtest.h>
 

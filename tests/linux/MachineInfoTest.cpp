@@ -1,4 +1,4 @@
-#include "platform/linux/LinuxMachineInfo.h"
+#include "platform/linux/kernel/LinuxMachineInfo.h"
 
 #include "fixtures/machines.h"
 

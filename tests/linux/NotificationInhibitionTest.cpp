@@ -1,8 +1,8 @@
-#include "platform/linux/NotificationInhibition.h"
+#include "platform/linux/dbus/NotificationInhibition.h"
 
 #include "fakes/ManualScheduler.h"
 #include "fakes/PrivateBus.h"
-#include "platform/linux/LinuxDoNotDisturb.h"
+#include "platform/linux/desktop/LinuxDoNotDisturb.h"
 
 #include <gtest/gtest.h>
 

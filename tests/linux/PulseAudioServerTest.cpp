@@ -1,8 +1,8 @@
-#include "platform/linux/PulseAudioServer.h"
+#include "platform/linux/audio/PulseAudioServer.h"
 
 #include "fakes/PulseDaemon.h"
-#include "platform/linux/PulseSession.h"
-#include "platform/linux/QtScheduler.h"
+#include "platform/linux/audio/PulseSession.h"
+#include "platform/linux/process/QtScheduler.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/QtScreens.h"
+#include "platform/linux/screens/QtScreens.h"
 
 #include <gtest/gtest.h>
 

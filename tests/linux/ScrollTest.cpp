@@ -1,5 +1,5 @@
-#include "platform/linux/ScrollGesture.h"
-#include "platform/linux/TouchpadScroll.h"
+#include "platform/linux/x11/ScrollGesture.h"
+#include "platform/linux/x11/TouchpadScroll.h"
 
 #include "fakes/ManualScheduler.h"
 

@@ -1,4 +1,4 @@
-#include "platform/linux/StatusNotifierItem.h"
+#include "platform/linux/dbus/StatusNotifierItem.h"
 
 #include "fakes/ManualScheduler.h"
 #include "fakes/PrivateBus.h"

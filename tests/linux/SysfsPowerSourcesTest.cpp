@@ -1,4 +1,4 @@
-#include "platform/linux/SysfsPowerSources.h"
+#include "platform/linux/kernel/SysfsPowerSources.h"
 
 #include "fixtures/machines.h"
 #include "sensors/BatteryHealthReader.h"

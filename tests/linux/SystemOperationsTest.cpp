@@ -1,9 +1,9 @@
-#include "platform/linux/SystemOperations.h"
+#include "platform/linux/desktop/SystemOperations.h"
 
 #include "fakes/FakeAudioServer.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/PrivateBus.h"
-#include "platform/linux/GnomeBanners.h"
+#include "platform/linux/desktop/GnomeBanners.h"
 
 #include <gio/gio.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/ThemeSounds.h"
+#include "platform/linux/audio/ThemeSounds.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/ThermalZones.h"
+#include "platform/linux/kernel/ThermalZones.h"
 
 #include "fixtures/machines.h"
 #include "sensors/IOHIDBridge.h"

@@ -1,4 +1,4 @@
-#include "platform/linux/TrashCan.h"
+#include "platform/linux/files/TrashCan.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/XdgAutostart.h"
+#include "platform/linux/files/XdgAutostart.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "notch/NotchWindow.h"
-#include "platform/linux/DisplayServer.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/x11/DisplayServer.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>

@@ -1,7 +1,7 @@
 #include "sensors/SystemReader.h"
 
 #include "fakes/FakeHostStatistics.h"
-#include "platform/linux/LinuxHostStatistics.h"
+#include "platform/linux/kernel/LinuxHostStatistics.h"
 
 #include <gtest/gtest.h>
 

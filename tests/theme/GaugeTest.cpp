@@ -15,8 +15,6 @@
 #include <limits>
 #include <numbers>
 
-void qml_register_types_Brimlight_Theme();
-
 namespace brimlight::test {
 namespace {
 
@@ -475,7 +473,6 @@ TEST_F(Gauge, NumberIsFilledFromOneCornerToTheOther)
 /// at.
 TEST_F(Gauge, StandTogetherInQml)
 {
-    qml_register_types_Brimlight_Theme();
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     QQmlComponent component(&engine);

@@ -12,8 +12,6 @@
 #include <QQmlProperty>
 #include <QTemporaryDir>
 
-void qml_register_types_Brimlight_Theme();
-
 namespace brimlight::test {
 namespace {
 
@@ -33,11 +31,7 @@ QMap<QByteArray, MotionCurve> curves(const Motion &motion)
 class MotionQml : public testing::Test
 {
 protected:
-    MotionQml()
-    {
-        qml_register_types_Brimlight_Theme();
-        engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    }
+    MotionQml() { engine.addImportPath(QStringLiteral("qrc:/qt/qml")); }
 
     std::unique_ptr<QObject> make(const QByteArray &qml)
     {

@@ -6,7 +6,6 @@
 #include <QQuickItem>
 #include <QQuickView>
 
-void qml_register_types_Brimlight_Theme();
 // What Qt's own test library sends mouse events with.
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
                                       Qt::MouseButtons state, Qt::MouseButton button, QEvent::Type type,
@@ -21,7 +20,6 @@ class TapTest : public testing::Test
 protected:
     TapTest()
     {
-        qml_register_types_Brimlight_Theme();
         view.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
         QQmlComponent component(view.engine());
         component.setData("import QtQuick; import Brimlight.Theme; Item { property int taps: 0;"

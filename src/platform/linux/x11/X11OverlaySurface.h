@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/OverlaySurface.h"
+#include "platform/linux/x11/ScrollGesture.h"
+#include "platform/linux/x11/TouchpadScroll.h"
+#include "platform/linux/x11/X11BlurBehind.h"
+#include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11KeyboardFocus.h"
+#include "platform/linux/x11/X11Sensor.h"
+#include "platform/linux/x11/X11Stacking.h"
+
+#include <QObject>
+#include <QWindow>
+
+#include <memory>
+
+namespace brimlight {
+
+/// The rows of pixels that an outline covers, within a window whose frame is `extent`.
+std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent,
+                                         double devicePixelRatio);
+
+/// A window outside of the window manager's care, with a sensor beneath it.
+class X11OverlaySurface : public QObject, public OverlaySurface
+{
+public:
+    /// Prepares `window`, which must not have been shown. `overChanged` hears when the pointer comes and
+    /// goes.
+    X11OverlaySurface(QWindow &window, X11Connection &connection, Scheduler &scheduler,
+                      std::function<void(bool)> overChanged);
+
+    void setEvents(Events events) override { m_events = std::move(events); }
+    void orderFront() override;
+    void setExtent(const Rect &extent) override;
+    void setOutlines(const std::vector<SurfaceOutline> &outlines) override;
+    void setSensor(const Rect &strip) override;
+    void setWantsKeyboard(bool wants) override;
+    SurfaceBackdrop backdrop() const override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool handle(const xcb_generic_event_t &event);
+    bool handlePointer(const xcb_input_button_press_event_t &event);
+    /// Something is dragged over the sensor. That can take nothing: it gives way to the drawn window, which
+    /// is what the source finds at its next motion, and Qt does the rest.
+    bool handleDrag(const xcb_client_message_event_t &event);
+    void setDragOver(bool over);
+    /// What the pointer is over, of all windows on the screen.
+    xcb_window_t windowAtPointer() const;
+    bool isOurs(xcb_window_t window) const { return window == m_sensor.id() || window == m_window.winId(); }
+    void pointerCame();
+    void pointerWent();
+    void raise();
+    /// Whether the pointer is taken by anything that is drawn; else the strip feels it.
+    bool feelsContent() const;
+    void applyShape();
+    /// What the server paints by itself where something new of the window is seen.
+    void applyBackground();
+    void backdropMayHaveChanged();
+
+    QWindow &m_window;
+    X11Connection &m_connection;
+    std::function<void(bool)> m_overChanged;
+    Events m_events;
+    X11Sensor m_sensor;
+    X11KeyboardFocus m_keyboard;
+    X11Stacking m_stacking;
+    X11BlurBehind m_blur;
+    SurfaceBackdrop m_backdrop = SurfaceBackdrop::opaque;
+    TouchpadScroll m_touchpad;
+    ScrollGesture m_gesture;
+    Rect m_extent;
+    Rect m_strip;
+    std::vector<SurfaceOutline> m_outlines;
+    bool m_over = false;
+    bool m_pressed = false;
+    bool m_wantsKeyboard = false;
+    /// Something is being dragged over the strip, so the drawn window covers it though nothing is drawn.
+    bool m_dragOver = false;
+    xcb_atom_t m_dragEnter;
+    xcb_atom_t m_dragPosition;
+    xcb_atom_t m_dragLeave;
+    xcb_atom_t m_dragStatus;
+    X11Connection::Listening m_listening;
+};
+
+} // namespace brimlight
