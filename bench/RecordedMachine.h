@@ -1,22 +1,14 @@
 #pragma once
 
-#include "app/AllWidgets.h"
-#include "fakes/Fakes.h"
-#include "fakes/SwitchFakes.h"
+#include "app/Stores.h"
+#include "fakes/FakePlatform.h"
 #include "fixtures/machines.h"
-#include "grid/GridStore.h"
 #include "grid/WidgetCatalog.h"
-#include "grid/WidgetRegistry.h"
 #include "platform/linux/kernel/HwmonSmc.h"
 #include "platform/linux/kernel/LinuxHostStatistics.h"
 #include "platform/linux/kernel/LinuxMachineInfo.h"
 #include "platform/linux/kernel/SysfsPowerSources.h"
 #include "platform/linux/kernel/ThermalZones.h"
-#include "sensors/MachinePorts.h"
-#include "sensors/SharedPowerSources.h"
-#include "sensors/SwitchPorts.h"
-#include "sensors/SystemHistoryStore.h"
-#include "sensors/TemperatureService.h"
 
 #include <cmath>
 #include <numbers>
@@ -59,8 +51,8 @@ public:
         m_statistics.volume = fare.volume;
         m_statistics.seconds = fare.uptime;
         writeCounters();
-        m_history.setActive(true);
-        ticker.setActive(true);
+        stores.systemHistory.setActive(true);
+        stores.ticker.setActive(true);
     }
 
     /// The counters move, then the clock ticks.
@@ -72,18 +64,8 @@ public:
         m_received += static_cast<uint32_t>(m_fare.down * traffic(0.9));
         m_sent += static_cast<uint32_t>(m_fare.up * traffic(2.3));
         writeCounters();
-        scheduler.advance(std::chrono::seconds(1));
+        m_fakes.scheduler.advance(std::chrono::seconds(1));
     }
-
-    test::ManualScheduler scheduler;
-    test::MemoryDefaults defaults;
-    test::RecordingLog log;
-    TraceLog trace{log, {}};
-    WidgetRegistry registry{allWidgets()};
-    GridStore grid{QStringLiteral("/proc/brimlight/grid.json"), registry};
-    ThemeStore theme{QStringLiteral("/proc/brimlight/theme.json"), defaults, log};
-    AppSettings settings{defaults};
-    TickCoordinator ticker{scheduler, trace};
 
 private:
     /// What no file of the recording tells.
@@ -138,27 +120,32 @@ private:
     BoundedRead m_reads;
     HwmonSmc m_smc{m_reads, m_machine.sys()};
     ThermalZones m_zones{m_reads, m_machine.sys()};
-    SystemHistoryStore m_history{m_statistics, scheduler};
-    TemperatureService m_temperature{{m_smc, m_zones, m_info, m_power, defaults, log, scheduler}};
-    SharedPowerSources m_sharedPower{m_power, scheduler};
-    MachinePorts m_ports{m_statistics, m_sharedPower, m_info};
-    test::FakeScriptHost m_scripts;
-    test::FakePowerAssertions m_assertions;
-    test::FakeSounds m_sounds;
-    test::FakeAppearance m_appearance;
-    SwitchPorts m_switches{m_scripts, m_assertions, m_sounds, m_appearance};
-    WidgetEnvironment m_environment{registry,
-                                    grid,
-                                    theme,
-                                    settings,
-                                    ticker,
-                                    {{QStringLiteral("machine"), &m_ports},
-                                     {QStringLiteral("switches"), &m_switches},
-                                     {QStringLiteral("systemHistory"), &m_history},
-                                     {QStringLiteral("temperature"), &m_temperature}}};
+    test::FakePlatform m_fakes;
 
 public:
-    WidgetCatalog catalog{m_environment};
+    Stores stores{{m_fakes.scheduler,
+                   m_fakes.defaults,
+                   m_fakes.folders,
+                   m_fakes.recorded,
+                   m_fakes.screens,
+                   m_fakes.pointer,
+                   m_fakes.unixSignals,
+                   m_fakes.appearance,
+                   m_statistics,
+                   m_power,
+                   m_info,
+                   m_smc,
+                   m_zones,
+                   m_fakes.loginItem,
+                   m_fakes.statusItem,
+                   m_fakes.audio,
+                   m_fakes.brightness,
+                   m_fakes.doNotDisturb,
+                   m_fakes.scripts,
+                   m_fakes.powerAssertions,
+                   m_fakes.sounds},
+                  m_fakes.log};
+    WidgetCatalog catalog{stores.widgets};
 };
 
 } // namespace brimlight::bench

@@ -214,7 +214,8 @@ QImage reduced(const QImage &image)
 bool drawMachine(QPainter &painter, double left, const State &state)
 {
     RecordedMachine machine(state.fare);
-    WidgetRenderer renderer(machine.catalog, machine.theme, {.margin = tileMargin, .color = background});
+    WidgetRenderer renderer(machine.catalog, machine.stores.theme,
+                            {.margin = tileMargin, .color = background});
     drawLabel(painter, {left + tileMargin, margin + 14}, state.title, 15, Qt::white);
     double top = margin + 24;
     for (const QString &kind : kinds) {
@@ -238,7 +239,9 @@ bool drawMachine(QPainter &painter, double left, const State &state)
 
 bool draw(const QString &file)
 {
-    const WidgetRegistry registry(allWidgets());
+    const test::FakePlatform machine;
+    const Stores stores(machine.platform, machine.log);
+    const WidgetRegistry &registry = stores.registry;
     double height = 2 * margin + 24;
     for (const QString &kind : kinds)
         height += heightOf(placed(registry.definition(kind)->metadata.allowedSizes)) + rowGap;

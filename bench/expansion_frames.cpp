@@ -170,7 +170,7 @@ int measure(int openings)
         });
         watch.start();
         notch.open();
-        spinWhileAnimating(*notch.panel());
+        spinWhileAnimating(notch.panel());
         const std::vector<Frame> recorded = watch.stop();
         const Milliseconds used = processorTime() - processorBefore;
         QObject::disconnect(drawn);
@@ -184,7 +184,7 @@ int measure(int openings)
         }
         rest();
         notch.requestClose();
-        spinWhileAnimating(*notch.panel());
+        spinWhileAnimating(notch.panel());
         rest();
     }
     if (frames.empty()) {

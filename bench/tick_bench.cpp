@@ -59,18 +59,18 @@ public:
 
     explicit Page(Layout layout)
     {
-        m_machine.grid.setLayout(layout(m_machine.registry));
+        m_machine.stores.grid.setLayout(layout(m_machine.registry));
         m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
         m_motion.installOn(m_engine);
         QQmlComponent component(&m_engine,
                                 QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Grid/WidgetGridView.qml")));
         m_view.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(
             {{QStringLiteral("catalog"), QVariant::fromValue(&m_machine.catalog)},
-             {QStringLiteral("grid"), QVariant::fromValue(&m_machine.grid)},
+             {QStringLiteral("grid"), QVariant::fromValue(&m_machine.stores.grid)},
              {QStringLiteral("tiles"), QVariant::fromValue(&m_tiles)},
              {QStringLiteral("drag"), QVariant::fromValue(&m_drag)},
              {QStringLiteral("viewState"), QVariant::fromValue(&m_state)},
-             {QStringLiteral("theme"), QVariant::fromValue(&m_machine.theme)},
+             {QStringLiteral("theme"), QVariant::fromValue(&m_machine.stores.theme)},
              {QStringLiteral("page"), 0},
              {QStringLiteral("open"), true}})));
         if (!m_view)
@@ -107,8 +107,8 @@ public:
 private:
     bench::RecordedMachine m_machine{{}};
     GridViewState m_state;
-    TileModel m_tiles{m_machine.grid};
-    GridDrag m_drag{m_machine.grid, m_state};
+    TileModel m_tiles{m_machine.stores.grid};
+    GridDrag m_drag{m_machine.stores.grid, m_state};
     Motion m_motion{nullptr};
     QQmlEngine m_engine;
     QQuickRenderControl m_control;

@@ -1,101 +1,52 @@
 #include "app/AllWidgets.h"
 
-#include "media/MediaWidget.h"
-#include "online/CryptoWidget.h"
-#include "online/CurrencyWidget.h"
-#include "online/GitHubStatusWidget.h"
-#include "online/StocksWidget.h"
-#include "online/SunMoonWidget.h"
-#include "online/WeatherWidget.h"
-#include "personal/AppLauncherWidget.h"
-#include "personal/CalendarEventsWidget.h"
-#include "personal/ClipboardWidget.h"
-#include "personal/CountdownWidget.h"
-#include "personal/DailyHabitsWidget.h"
-#include "personal/FileShelfWidget.h"
-#include "personal/QuickNoteWidget.h"
-#include "personal/RemindersWidget.h"
-#include "personal/ShortcutsWidget.h"
-#include "personal/StopwatchWidget.h"
-#include "personal/TaskChecklistWidget.h"
-#include "personal/TimerWidget.h"
-#include "sensors/AudioVisualizerWidget.h"
-#include "sensors/BatteryHealthWidget.h"
-#include "sensors/BatteryWidget.h"
-#include "sensors/DiskWidget.h"
-#include "sensors/NetworkWidget.h"
-#include "sensors/QuickTogglesWidget.h"
-#include "sensors/SoundMeterWidget.h"
-#include "sensors/SystemInfoWidget.h"
-#include "sensors/SystemWidget.h"
-#include "sensors/TemperatureWidget.h"
-#include "sensors/UsageGraphWidget.h"
-#include "widgets/AnalogClockWidget.h"
-#include "widgets/BreathingWidget.h"
-#include "widgets/CalculatorWidget.h"
-#include "widgets/CalendarWidget.h"
-#include "widgets/ClockWidget.h"
-#include "widgets/DayProgressWidget.h"
-#include "widgets/DiceRollerWidget.h"
-#include "widgets/EyeCareWidget.h"
-#include "widgets/HydrationWidget.h"
-#include "widgets/PasswordGeneratorWidget.h"
-#include "widgets/PomodoroWidget.h"
-#include "widgets/ScreenMirrorWidget.h"
-#include "widgets/UnitConverterWidget.h"
-#include "widgets/WindowSnapperWidget.h"
-#include "widgets/WorldClockWidget.h"
+#include "app/Stores.h"
+#include "media/MediaWidgets.h"
+#include "online/OnlineWidgets.h"
+#include "personal/PersonalWidgets.h"
+#include "sensors/SensorWidgets.h"
+#include "widgets/ToolWidgets.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace brimlight {
-std::vector<WidgetDefinition> allWidgets()
+namespace {
+
+using namespace std::string_view_literals;
+
+/// The order of the gallery.
+constexpr std::array order{
+    "clock"sv,          "analogclock"sv,  "worldclock"sv,   "day_progress"sv,
+    "weather"sv,        "sunmoon"sv,      "media"sv,        "battery"sv,
+    "batteryhealth"sv,  "system"sv,       "usagegraph"sv,   "sysinfo"sv,
+    "temperature"sv,    "network"sv,      "disk"sv,         "calendar"sv,
+    "events"sv,         "reminders"sv,    "stocks"sv,       "crypto"sv,
+    "currency"sv,       "clipboard"sv,    "audio"sv,        "launcher"sv,
+    "shelf"sv,          "shortcuts"sv,    "timer"sv,        "stopwatch"sv,
+    "countdown"sv,      "daily_habits"sv, "note"sv,         "password_generator"sv,
+    "calculator"sv,     "pomodoro"sv,     "quicktoggles"sv, "window_snapper"sv,
+    "task_checklist"sv, "breathing"sv,    "eye_care"sv,     "hydration"sv,
+    "mirror"sv,         "sound_meter"sv,  "dice"sv,         "unit_converter"sv,
+    "github"sv,
+};
+
+qsizetype place(const WidgetDefinition &definition)
 {
-    return {
-        ClockWidget::definition(),
-        AnalogClockWidget::definition(),
-        WorldClockWidget::definition(),
-        DayProgressWidget::definition(),
-        WeatherWidget::definition(),
-        SunMoonWidget::definition(),
-        MediaWidget::definition(),
-        BatteryWidget::definition(),
-        BatteryHealthWidget::definition(),
-        SystemWidget::definition(),
-        UsageGraphWidget::definition(),
-        SystemInfoWidget::definition(),
-        TemperatureWidget::definition(),
-        NetworkWidget::definition(),
-        DiskWidget::definition(),
-        CalendarWidget::definition(),
-        CalendarEventsWidget::definition(),
-        RemindersWidget::definition(),
-        StocksWidget::definition(),
-        CryptoWidget::definition(),
-        CurrencyWidget::definition(),
-        ClipboardWidget::definition(),
-        AudioVisualizerWidget::definition(),
-        AppLauncherWidget::definition(),
-        FileShelfWidget::definition(),
-        ShortcutsWidget::definition(),
-        TimerWidget::definition(),
-        StopwatchWidget::definition(),
-        CountdownWidget::definition(),
-        DailyHabitsWidget::definition(),
-        QuickNoteWidget::definition(),
-        PasswordGeneratorWidget::definition(),
-        CalculatorWidget::definition(),
-        PomodoroWidget::definition(),
-        QuickTogglesWidget::definition(),
-        WindowSnapperWidget::definition(),
-        TaskChecklistWidget::definition(),
-        BreathingWidget::definition(),
-        EyeCareWidget::definition(),
-        HydrationWidget::definition(),
-        ScreenMirrorWidget::definition(),
-        SoundMeterWidget::definition(),
-        DiceRollerWidget::definition(),
-        UnitConverterWidget::definition(),
-        GitHubStatusWidget::definition(),
-    };
+    return std::ranges::find(order, definition.metadata.kind.toStdString()) - order.begin();
+}
+
+} // namespace
+
+std::vector<WidgetDefinition> allWidgets(Stores &stores)
+{
+    std::vector<WidgetDefinition> all;
+    for (auto &&kinds : {toolWidgets(stores), onlineWidgets(stores), mediaWidgets(stores),
+                         sensorWidgets(stores), personalWidgets(stores)})
+        all.insert(all.end(), kinds.begin(), kinds.end());
+    std::ranges::stable_sort(all, {}, place);
+    return all;
 }
 
 } // namespace brimlight

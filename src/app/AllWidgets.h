@@ -6,8 +6,9 @@
 
 namespace brimlight {
 
-/// Every kind of widget that the program knows, in the order of the gallery. The one table that names them
-/// all.
-std::vector<WidgetDefinition> allWidgets();
+class Stores;
+
+/// All 45 kinds of widget, in the order of the gallery. They borrow the stores, which need not exist yet.
+std::vector<WidgetDefinition> allWidgets(Stores &stores);
 
 } // namespace brimlight

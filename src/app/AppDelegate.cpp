@@ -1,6 +1,5 @@
 #include "app/AppDelegate.h"
 
-#include "app/AllWidgets.h"
 #include "app/DebugSignalControls.h"
 
 #include <QCoreApplication>
@@ -14,21 +13,30 @@ QString launchLine(const QString &version)
 
 AppDelegate::AppDelegate()
     : m_log(m_platform.ports().log, m_flags)
-    , m_widgets(allWidgets())
 {
+}
+
+AppDelegate::~AppDelegate()
+{
+    // Views go before what they show.
+    if (m_window)
+        m_window->unhost();
 }
 
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_log.info(launchLine(QStringLiteral(BRIMLIGHT_VERSION)));
+    m_stores.emplace(m_platform.ports(), m_log);
     m_window.emplace([this](QWindow &window) { return m_platform.makeSurface(window); });
-    m_notch.emplace(m_platform.ports(), *m_window, m_log, m_widgets);
-    m_idleMemory.emplace(*m_notch->viewModel(), m_platform.ports().scheduler,
+    m_notch.emplace(*m_stores, m_window->surface());
+    m_window->host(m_notch->scene, m_notch->controller);
+    m_idleMemory.emplace(m_stores->viewModel, m_stores->platform.scheduler,
                          LinuxPlatform::giveBackFreeMemory);
-    m_notch->show();
-    m_statusBar.emplace(*m_notch, *m_notch->loginItem(), m_platform.ports().statusItem,
-                        [] { QCoreApplication::quit(); });
-    DebugSignalControls::installIfEnabled(m_flags, m_platform.ports().unixSignals, *m_notch, m_log);
+    m_notch->controller.show();
+    m_statusBar.emplace(m_notch->controller, m_stores->loginItem, m_stores->updater,
+                        m_stores->platform.statusItem, [] { QCoreApplication::quit(); });
+    DebugSignalControls::installIfEnabled(m_flags, m_stores->platform.unixSignals, m_notch->controller,
+                                          m_log);
 }
 
 } // namespace brimlight

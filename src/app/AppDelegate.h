@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/IdleMemory.h"
+#include "app/NotchAssembly.h"
 #include "app/StatusBarController.h"
+#include "app/Stores.h"
 #include "core/TraceLog.h"
-#include "grid/WidgetRegistry.h"
-#include "notch/NotchController.h"
 #include "notch/NotchWindow.h"
 #include "platform/linux/LinuxPlatform.h"
 
@@ -17,19 +17,20 @@ class AppDelegate
 {
 public:
     AppDelegate();
+    ~AppDelegate();
 
     /// The launch, in a fixed order, since later objects take references to earlier ones.
     void applicationDidFinishLaunching();
 
-    NotchController &notch() { return *m_notch; }
+    NotchController &notch() { return m_notch->controller; }
 
 private:
     LinuxPlatform m_platform;
     DebugFlags m_flags = DebugFlags::fromEnvironment();
     TraceLog m_log;
-    WidgetRegistry m_widgets;
+    std::optional<Stores> m_stores;
     std::optional<NotchWindow> m_window;
-    std::optional<NotchController> m_notch;
+    std::optional<NotchAssembly> m_notch;
     std::optional<IdleMemory> m_idleMemory;
     std::optional<StatusBarController> m_statusBar;
 };

@@ -19,11 +19,12 @@ constexpr QRgb tint = qRgb(0x8a, 0x8a, 0x8a);
 } // namespace
 
 StatusBarController::StatusBarController(NotchController &controller, LoginItemService &loginItem,
-                                         StatusItem &item, std::function<void()> terminate)
+                                         UpdateService &updater, StatusItem &item,
+                                         std::function<void()> terminate)
     : m_item(item)
     , m_controller(controller)
     , m_loginItem(loginItem)
-    , m_updater(*controller.updater())
+    , m_updater(updater)
     , m_quit(std::move(terminate))
 {
     const QString symbol = QStringLiteral("rectangle.topthird.inset.filled");

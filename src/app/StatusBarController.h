@@ -16,8 +16,8 @@ class StatusBarController
 {
 public:
     /// `terminate` ends the program. Everything handed over must outlive the item.
-    StatusBarController(NotchController &controller, LoginItemService &loginItem, StatusItem &item,
-                        std::function<void()> terminate);
+    StatusBarController(NotchController &controller, LoginItemService &loginItem, UpdateService &updater,
+                        StatusItem &item, std::function<void()> terminate);
 
 private:
     std::vector<StatusMenuEntry> menu();

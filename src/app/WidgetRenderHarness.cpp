@@ -1,17 +1,8 @@
 #include "app/WidgetRenderHarness.h"
 
-#include "app/AllWidgets.h"
+#include "app/Stores.h"
 #include "app/WidgetRenderer.h"
-#include "core/AppPaths.h"
-#include "core/AppSettings.h"
-#include "core/TickCoordinator.h"
-#include "core/TraceLog.h"
-#include "grid/GridStore.h"
-#include "grid/WidgetRegistry.h"
-#include "platform/Appearance.h"
 #include "platform/linux/LinuxPlatform.h"
-#include "sensors/SensorStores.h"
-#include "theme/ThemeStore.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -36,21 +27,14 @@ Outcome renderAll(const QString &folder)
     LinuxPlatform platform;
     const Platform ports = platform.ports();
     const TraceLog log(ports.log, {});
-    const AppPaths paths(ports.folders);
-    const WidgetRegistry registry(allWidgets());
-    GridStore grid(paths.appSupportFile(QStringLiteral("grid.json")), registry);
-    ThemeStore theme(paths.appSupportFile(QStringLiteral("theme.json")), ports.defaults, ports.log);
-    AppSettings settings(ports.defaults);
-    TickCoordinator ticker(ports.scheduler, log);
-    SensorStores sensors(ports);
-    sensors.history.setActive(true);
-    sensors.temperature.refresh();
-    const WidgetEnvironment environment{registry, grid, theme, settings, ticker, sensors.named()};
-    WidgetCatalog catalog(environment);
-    WidgetRenderer renderer(catalog, theme);
+    Stores stores(ports, log);
+    stores.systemHistory.setActive(true);
+    stores.temperature.refresh();
+    WidgetCatalog catalog(stores.widgets);
+    WidgetRenderer renderer(catalog, stores.theme);
 
     Outcome outcome;
-    for (const WidgetDefinition &definition : registry.all()) {
+    for (const WidgetDefinition &definition : stores.registry.all()) {
         for (const WidgetSize size : definition.metadata.allowedSizes) {
             const QString name = QStringLiteral("%1_%2.png").arg(definition.metadata.kind, rawValue(size));
             const QImage image = renderer.render(definition.metadata.kind, size);

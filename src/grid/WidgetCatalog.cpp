@@ -59,6 +59,7 @@ GalleryEntry galleryEntry(const WidgetMetadata &metadata)
 WidgetCatalog::WidgetCatalog(const WidgetEnvironment &environment, QObject *parent)
     : QObject(parent)
     , m_environment(environment)
+    , m_sessions(environment)
 {
 }
 

@@ -3,6 +3,7 @@
 #include "grid/GridLayout.h"
 #include "grid/WidgetDefinition.h"
 #include "grid/WidgetEnvironment.h"
+#include "grid/WidgetSession.h"
 
 #include <QObject>
 #include <QVariant>
@@ -76,6 +77,7 @@ public:
     ~WidgetCatalog() override;
 
     const WidgetEnvironment &environment() const { return m_environment; }
+    WidgetSessions &sessions() { return m_sessions; }
 
     /// Of GalleryEntry: every kind, in the registry's order.
     Q_INVOKABLE QVariantList gallery() const;
@@ -96,6 +98,7 @@ public:
 
 private:
     const WidgetEnvironment &m_environment;
+    WidgetSessions m_sessions;
     std::unordered_map<QString, std::unique_ptr<QQmlComponent>> m_components;
 };
 

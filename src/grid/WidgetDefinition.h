@@ -4,12 +4,16 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 #include <QUrl>
 
+#include <functional>
+#include <memory>
 #include <optional>
 
 namespace brimlight {
+
+class WidgetContext;
+class WidgetLogic;
 
 /// How often the content of a widget changes. A declaration: no timer starts from it.
 struct RefreshCadence
@@ -58,8 +62,26 @@ struct WidgetDefinition
     QUrl view;
     /// The QML file of the tile's back; only with `hasSettings`.
     QUrl settingsView;
-    /// Names of the environment objects that the views declare as required properties.
-    QStringList stores;
+    /// Makes the logic of an instance, which both views get as their required property "face". Empty for a
+    /// kind whose views need no more than their context.
+    std::function<std::unique_ptr<WidgetLogic>(WidgetContext &)> makeLogic;
 };
+
+/// A `makeLogic` for this type of logic, whose constructor takes the context and these stores. The stores
+/// must outlive every tile and need not exist yet.
+template<typename Logic, typename... Stores>
+auto makes(Stores &...stores)
+{
+    return [&stores...](WidgetContext &context) -> std::unique_ptr<WidgetLogic> {
+        return std::make_unique<Logic>(context, stores...);
+    };
+}
+
+/// The address of a view, by the name of its module ("Sensors") and of its file ("DiskView").
+inline QUrl widgetView(const char *module, const char *file)
+{
+    return QUrl(
+        QStringLiteral("qrc:/qt/qml/Brimlight/%1/%2.qml").arg(QLatin1String(module), QLatin1String(file)));
+}
 
 } // namespace brimlight

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <QHash>
-#include <QObject>
-#include <QString>
-
 namespace brimlight {
 
 class AppSettings;
@@ -12,7 +8,7 @@ class ThemeStore;
 class TickCoordinator;
 class WidgetRegistry;
 
-/// What widget views find around them, borrowed: the stores that every view needs, and the others by name.
+/// What every widget finds around it, borrowed. What else a kind needs, its definition knows.
 struct WidgetEnvironment
 {
     const WidgetRegistry &registry;
@@ -20,8 +16,6 @@ struct WidgetEnvironment
     ThemeStore &theme;
     AppSettings &settings;
     TickCoordinator &ticker;
-    /// Views name what they need of these as required properties, definitions list the names.
-    QHash<QString, QObject *> stores;
 };
 
 } // namespace brimlight

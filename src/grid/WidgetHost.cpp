@@ -1,5 +1,6 @@
 #include "grid/WidgetHost.h"
 
+#include "grid/WidgetLogic.h"
 #include "grid/WidgetRegistry.h"
 
 #include <QQmlComponent>
@@ -14,15 +15,17 @@ WidgetHost::WidgetHost(QQuickItem *parent)
 
 WidgetHost::~WidgetHost()
 {
-    // The view reads its context to the last.
+    // The view reads its session to the last.
     m_view.reset();
+    if (m_session)
+        m_session->setSeen(*this, false);
 }
 
 void WidgetHost::setSize(const QString &size)
 {
     m_size = widgetSizeFromRawValue(size).value_or(WidgetSize::small);
-    if (m_context)
-        m_context->setSize(m_size);
+    if (m_session)
+        m_session->context().setSize(m_size);
     Q_EMIT sizeChanged();
 }
 
@@ -37,16 +40,16 @@ void WidgetHost::setInstance(const QVariant &instance)
                                                        : std::nullopt;
     if (m_instance)
         m_size = m_instance->size;
-    if (m_context)
-        m_context->setInstance(m_instance);
+    if (m_session)
+        m_session->context().setInstance(m_instance);
     Q_EMIT instanceChanged();
 }
 
 void WidgetHost::setLive(bool live)
 {
     m_live = live;
-    if (m_context)
-        m_context->setLive(live);
+    if (m_session)
+        m_session->setSeen(*this, live);
     else if (live && isComponentComplete())
         build();
     Q_EMIT liveChanged();
@@ -74,13 +77,12 @@ void WidgetHost::build()
     QQmlEngine *engine = qmlEngine(this);
     if (url.isEmpty() || !engine)
         return;
-    m_context = std::make_unique<WidgetContext>(environment);
-    m_context->setSize(m_size);
-    m_context->setInstance(m_instance);
-    m_context->setLive(m_live);
-    QVariantMap properties{{QStringLiteral("context"), QVariant::fromValue(m_context.get())}};
-    for (const QString &name : definition->stores)
-        properties.insert(name, QVariant::fromValue(environment.stores.value(name)));
+    m_session = m_instance ? m_catalog->sessions().session(*m_instance, *definition)
+                           : std::make_shared<WidgetSession>(environment, *definition, std::nullopt, m_size);
+    m_session->setSeen(*this, m_live);
+    QVariantMap properties{{QStringLiteral("context"), QVariant::fromValue(&m_session->context())}};
+    if (m_session->logic())
+        properties.insert(QStringLiteral("face"), QVariant::fromValue(m_session->logic()));
     QQmlComponent &component = m_catalog->component(*engine, url);
     // Qt 6.4 does not survive the creation of what it could not load.
     QObject *made =

@@ -10,6 +10,7 @@ namespace brimlight {
 
 /// Holds the view of one widget, or the back of its tile. The view is made when it is first needed and then
 /// lives as long as the host: a new size or a new value of the instance re-lays it and never rebuilds it.
+/// What it shows comes from the session of its instance; outside of a tile the host has a session of its own.
 class WidgetHost : public QQuickItem
 {
     Q_OBJECT
@@ -58,7 +59,7 @@ private:
     bool m_settingsSide = false;
     bool m_live = false;
     bool m_isBroken = false;
-    std::unique_ptr<WidgetContext> m_context;
+    std::shared_ptr<WidgetSession> m_session;
     std::unique_ptr<QQuickItem> m_view;
 };
 

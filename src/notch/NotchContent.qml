@@ -9,9 +9,10 @@ import Brimlight.Notch
 Item {
     id: root
 
+    required property NotchScene scene
     required property NotchController controller
-    readonly property NotchViewModel viewModel: controller.viewModel
-    readonly property theme colors: controller.theme.shown
+    readonly property NotchViewModel viewModel: scene.viewModel
+    readonly property theme colors: scene.theme.shown
     readonly property bool shown: viewModel.isExpanded
     readonly property real topInset: viewModel.collapsedHeight + 8
     property bool galleryOpen: false
@@ -125,6 +126,7 @@ Item {
         enabled: !root.viewModel.onboardingCompleted
         opacity: 1 - root.arrival
         sourceComponent: NotchOnboarding {
+            scene: root.scene // qmllint disable unqualified
             controller: root.controller // qmllint disable unqualified
         }
     }
@@ -140,6 +142,7 @@ Item {
         visible: root.viewModel.onboardingCompleted
         opacity: root.arrival
         enabled: !root.galleryOpen
+        scene: root.scene
         controller: root.controller
         onGalleryRequested: root.openGallery()
     }
@@ -170,10 +173,10 @@ Item {
         enabled: wanted
         onLoaded: giveFocus()
         sourceComponent: ThemeSettingsView {
-            theme: root.controller.theme // qmllint disable unqualified
-            settings: root.controller.appSettings // qmllint disable unqualified
-            loginItem: root.controller.loginItem // qmllint disable unqualified
-            updater: root.controller.updater // qmllint disable unqualified
+            theme: root.scene.theme // qmllint disable unqualified
+            settings: root.scene.appSettings // qmllint disable unqualified
+            loginItem: root.scene.loginItem // qmllint disable unqualified
+            updater: root.scene.updater // qmllint disable unqualified
         }
 
         Behavior on opacity {
@@ -225,12 +228,12 @@ Item {
             id: grid
 
             x: (parent.width - implicitWidth) / 2
-            catalog: root.controller.catalog
-            grid: root.controller.grid
-            tiles: root.controller.tiles
-            drag: root.controller.gridDrag
+            catalog: root.scene.catalog
+            grid: root.scene.grid
+            tiles: root.scene.tiles
+            drag: root.scene.gridDrag
             viewState: root.viewModel
-            theme: root.controller.theme
+            theme: root.scene.theme
             page: root.viewModel.currentPage
             open: root.shown && page.wanted
             fading: root.opacity > 0 && page.opacity > 0
@@ -284,8 +287,8 @@ Item {
             y: root.topInset
             width: Math.min(380, parent.width - 32)
             height: parent.height - root.topInset - 24
-            catalog: root.controller.catalog
-            theme: root.controller.theme
+            catalog: root.scene.catalog
+            theme: root.scene.theme
             open: root.galleryOpen && root.shown
             onAdded: kind => {
                 root.controller.addWidget(kind);

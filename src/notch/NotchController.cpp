@@ -1,5 +1,10 @@
 #include "notch/NotchController.h"
 
+#include "core/AppSettings.h"
+#include "core/TickCoordinator.h"
+#include "grid/GridStore.h"
+#include "theme/ThemeStore.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -23,47 +28,24 @@ QStringList localFiles(const QList<QUrl> &urls)
 
 } // namespace
 
-NotchController::NotchController(const Platform &platform, NotchHosting &hosting, const TraceLog &log,
-                                 const WidgetRegistry &widgets)
-    : m_hosting(hosting)
-    , m_scheduler(platform.scheduler)
-    , m_screens(platform.screens)
-    , m_pointer(platform.pointer)
-    , m_log(log)
-    , m_motion(&platform.appearance)
-    , m_viewModel(platform.defaults)
-    , m_theme(AppPaths(platform.folders).appSupportFile(QStringLiteral("theme.json")), platform.defaults,
-              platform.log)
-    , m_grid(AppPaths(platform.folders).appSupportFile(QStringLiteral("grid.json")), widgets)
-    , m_ticker(platform.scheduler, log)
-    , m_loginItem(platform.loginItem, platform.log)
-    , m_appSettings(platform.defaults)
-    , m_updater(platform.defaults)
-    , m_sensors(platform)
-    , m_statusMonitor(platform.audio, platform.doNotDisturb, platform.scheduler)
-    , m_environment{widgets, m_grid, m_theme, m_appSettings, m_ticker, m_sensors.named()}
-    , m_tiles(m_grid)
-    , m_gridDrag(m_grid, m_viewModel)
-    , m_catalog(m_environment)
-    , m_pageControls(m_grid, m_viewModel)
-    , m_volumeMonitor(platform.audio)
-    , m_brightnessMonitor(platform.brightness, platform.scheduler)
-    , m_hud(m_viewModel)
-    , m_panel(hosting.surface())
-    , m_container(hosting.surface())
-    , m_hoverWatch(platform.pointer, platform.scheduler, [this] { evaluateHover(); })
+NotchController::NotchController(const NotchParts &parts, OverlaySurface &surface)
+    : m_scheduler(parts.scheduler)
+    , m_screens(parts.screens)
+    , m_pointer(parts.pointer)
+    , m_log(parts.log)
+    , m_viewModel(parts.viewModel)
+    , m_grid(parts.grid)
+    , m_ticker(parts.ticker)
+    , m_appSettings(parts.appSettings)
+    , m_theme(parts.theme)
+    , m_panel(surface)
+    , m_container(surface)
+    , m_hoverWatch(parts.pointer, parts.scheduler, [this] { evaluateHover(); })
 {
-    m_volumeMonitor.setupListener();
-    hosting.host(*this);
     wireContainer();
     m_screens.observeChanges([this] { m_scheduler.post(*this, [this] { reposition(); }); });
     subscribe();
     m_leftRelease = m_pointer.monitorLeftRelease([this] { leftReleased(); });
-}
-
-NotchController::~NotchController()
-{
-    m_hosting.unhost();
 }
 
 void NotchController::wireContainer()
@@ -87,18 +69,11 @@ void NotchController::wireContainer()
 
 void NotchController::subscribe()
 {
-    // Without transparency there is nothing to see of a blurred desktop.
-    const auto applyTransparency = [this] { m_panel.setBlursBehind(!m_motion.isOpaque()); };
-    connect(&m_motion, &Motion::changed, this, applyTransparency);
-    applyTransparency();
     onNextTurn(&m_grid, &GridStore::layoutChanged, [this] {
         clampCurrentPage();
         clearLostFlip();
         resizeIfExpanded();
     });
-    const auto sample = [this] { updateHistorySampling(); };
-    onNextTurn(&m_grid, &GridStore::layoutChanged, sample);
-    m_scheduler.post(*this, sample);
     const auto resize = [this] { resizeIfExpanded(); };
     onNextTurn(&m_viewModel, &NotchViewModel::currentPageChanged, resize);
     const auto applyRefreshRate = [this] { m_ticker.setInterval(interval(m_appSettings.refreshRate())); };
@@ -107,11 +82,6 @@ void NotchController::subscribe()
     onNextTurn(&m_viewModel, &NotchViewModel::showSettingsChanged, resize);
     onNextTurn(&m_viewModel, &NotchViewModel::hudTypeChanged, resize);
     onNextTurn(&m_viewModel, &NotchViewModel::onboardingCompletedChanged, resize);
-    onNextTurn(&m_volumeMonitor, &SystemVolumeMonitor::volumeChanged,
-               [this] { triggerHUD(HUDType::volume(m_volumeMonitor.volume())); });
-    onNextTurn(&m_brightnessMonitor, &SystemBrightnessMonitor::brightnessChanged,
-               [this] { triggerHUD(HUDType::brightness(m_brightnessMonitor.brightness())); });
-    connect(&m_hud, &HUDFace::changed, this, [this] { m_panel.setHudShown(m_hud.isShown()); });
 }
 
 void NotchController::show()
@@ -145,7 +115,6 @@ void NotchController::setExpanded(bool expanded)
         m_collapseWork.cancel();
     }
     m_ticker.setActive(expanded);
-    updateHistorySampling();
     const Rect frame = frameFor(expanded, *screen);
     m_panel.setFrame(frame, true);
     m_log.trace(QStringLiteral("Notch %1 frame=%2")
@@ -173,8 +142,6 @@ void NotchController::setPage(int index)
 void NotchController::openSettings()
 {
     open();
-    // The user may have changed it elsewhere.
-    m_loginItem.refresh();
     m_viewModel.setShowSettings(true);
 }
 
@@ -296,15 +263,6 @@ void NotchController::leftReleased()
     });
 }
 
-void NotchController::triggerHUD(const HUDType &type)
-{
-    if (m_viewModel.isExpanded())
-        return;
-    m_hudWorkItem.cancel();
-    m_viewModel.setHudType(type);
-    m_hudWorkItem.schedule(m_scheduler, hudDuration, [this] { m_viewModel.setHudType(std::nullopt); });
-}
-
 void NotchController::reposition()
 {
     const std::optional<Screen> screen = placement::chooseScreen(m_screens);
@@ -350,15 +308,6 @@ int NotchController::pageCount() const
     // A stored layout can have more pages than anybody turns.
     constexpr qint64 most = std::numeric_limits<int>::max();
     return static_cast<int>(std::clamp<qint64>(m_grid.layout().pageCount, 1, most));
-}
-
-void NotchController::updateHistorySampling()
-{
-    const auto drawsHistory = [](const WidgetInstance &instance) {
-        return instance.kind == QLatin1String("usagegraph");
-    };
-    m_sensors.history.setActive(m_viewModel.isExpanded() ||
-                                std::ranges::any_of(m_grid.layout().instances, drawsHistory));
 }
 
 void NotchController::clearLostFlip()

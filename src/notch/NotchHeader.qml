@@ -9,10 +9,11 @@ import Brimlight.Notch
 Item {
     id: root
 
+    required property NotchScene scene
     required property NotchController controller
-    readonly property NotchViewModel viewModel: controller.viewModel
-    readonly property SystemStatusMonitor status: controller.statusMonitor
-    readonly property theme colors: controller.theme.shown
+    readonly property NotchViewModel viewModel: scene.viewModel
+    readonly property SystemStatusMonitor status: scene.statusMonitor
+    readonly property theme colors: scene.theme.shown
     readonly property alias galleryButton: add
     readonly property alias settingsButton: gear
 
@@ -77,13 +78,13 @@ Item {
             visible: !root.viewModel.showSettings
 
             Repeater {
-                model: root.controller.pageControls.shown
+                model: root.scene.pageControls.shown
 
                 AbstractButton {
                     id: capsule
 
                     required property int index
-                    readonly property int page: root.controller.pageControls.first + index
+                    readonly property int page: root.scene.pageControls.first + index
                     readonly property bool current: page === root.viewModel.currentPage
 
                     width: bar.width
@@ -133,7 +134,7 @@ Item {
                 symbolSize: 12
                 label: "Add page"
                 color: root.colors.textSecondary
-                onClicked: root.controller.pageControls.addPage()
+                onClicked: root.scene.pageControls.addPage()
 
                 ToolTipLabel {
                     text: addPage.label

@@ -8,10 +8,11 @@ import Brimlight.Notch
 Item {
     id: root
 
+    required property NotchScene scene
     required property NotchController controller
-    readonly property theme colors: controller.theme.shown
+    readonly property theme colors: scene.theme.shown
     readonly property bool takesKeyboard: true
-    readonly property bool live: controller.viewModel.isExpanded
+    readonly property bool live: scene.viewModel.isExpanded
     // The step that is shown, and between two of them while one takes the other's place.
     property real place: steps.current
     readonly property real off: steps.current - place
@@ -129,7 +130,7 @@ Item {
             visible: !steps.isLast
             text: qsTr("Skip")
             colors: root.colors
-            onClicked: root.controller.viewModel.onboardingCompleted = true
+            onClicked: root.scene.viewModel.onboardingCompleted = true
         }
         TextButton {
             visible: steps.hasBack
@@ -183,7 +184,7 @@ Item {
         onClicked: {
             forceActiveFocus();
             if (steps.isLast)
-                root.controller.viewModel.onboardingCompleted = true;
+                root.scene.viewModel.onboardingCompleted = true;
             else
                 steps.next();
         }

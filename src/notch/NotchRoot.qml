@@ -9,9 +9,10 @@ import Brimlight.Notch
 Item {
     id: root
 
+    required property NotchScene scene
     required property NotchController controller
-    readonly property NotchPanel panel: controller.panel
-    readonly property theme colors: controller.theme.shown
+    readonly property NotchPanel panel: scene.panel
+    readonly property theme colors: scene.theme.shown
 
     Item {
         id: pane
@@ -25,9 +26,9 @@ Item {
         GlassSurface {
             anchors.fill: parent
             // Where nothing can shine through there is nothing to fade into.
-            opacity: root.controller.viewModel.isExpanded || backdrop === GlassSurface.Opaque ? 1 : 0
+            opacity: root.scene.viewModel.isExpanded || backdrop === GlassSurface.Opaque ? 1 : 0
             theme: root.colors
-            strength: root.controller.theme.glassStrength
+            strength: root.scene.theme.glassStrength
             tinted: true
             border: true
             bottomRadius: 32
@@ -61,7 +62,7 @@ Item {
                 property bool wanted: false
 
                 anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.max(536, root.controller.viewModel.collapsedWidth)
+                width: Math.max(536, root.scene.viewModel.collapsedWidth)
                 height: root.panel.openHeight
                 active: wanted
                 focus: true
@@ -76,6 +77,7 @@ Item {
                 }
 
                 sourceComponent: NotchContent {
+                    scene: root.scene // qmllint disable unqualified
                     controller: root.controller // qmllint disable unqualified
                     focus: true
                     onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
@@ -106,18 +108,18 @@ Item {
         id: hud
 
         active: false
-        visible: !root.controller.viewModel.isExpanded
+        visible: !root.scene.viewModel.isExpanded
 
         Connections {
-            target: root.controller.hud
+            target: root.scene.hud
 
             function onChanged() {
-                hud.active = hud.active || root.controller.hud.isShown;
+                hud.active = hud.active || root.scene.hud.isShown;
             }
         }
 
         sourceComponent: NotchHUDView {
-            face: root.controller.hud // qmllint disable unqualified
+            face: root.scene.hud // qmllint disable unqualified
             colors: root.colors // qmllint disable unqualified
             place: root.panel.hudPlace // qmllint disable unqualified
             onSeenChanged: root.panel.showHud(seen) // qmllint disable unqualified
@@ -128,9 +130,9 @@ Item {
         id: menu
 
         anchors.fill: parent
-        catalog: root.controller.catalog
-        viewState: root.controller.viewModel
-        theme: root.controller.theme
+        catalog: root.scene.catalog
+        viewState: root.scene.viewModel
+        theme: root.scene.theme
         onMenuRectChanged: root.panel.showPopover(menu, menuRect)
         onSizesRectChanged: root.panel.showPopover(sizes, sizesRect)
         onClosed: (InputModality.isKeyboard ? opener : content).forceActiveFocus()

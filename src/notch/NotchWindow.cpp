@@ -1,6 +1,9 @@
 #include "notch/NotchWindow.h"
 
+#include "notch/NotchController.h"
+#include "notch/NotchScene.h"
 #include "theme/InputModality.h"
+#include "theme/Motion.h"
 
 #include <QQuickItem>
 
@@ -66,12 +69,13 @@ NotchWindow::NotchWindow(const SurfaceFactory &makeSurface)
 
 NotchWindow::~NotchWindow() = default;
 
-void NotchWindow::host(NotchController &controller)
+void NotchWindow::host(NotchScene &scene, NotchController &controller)
 {
-    m_translator = std::make_unique<UiTranslator>(*controller.appSettings());
-    connect(controller.appSettings(), &AppSettings::languageChanged, &m_engine, &QQmlEngine::retranslate);
-    controller.motion().installOn(m_engine);
-    m_view.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
+    m_translator = std::make_unique<UiTranslator>(*scene.appSettings());
+    connect(scene.appSettings(), &AppSettings::languageChanged, &m_engine, &QQmlEngine::retranslate);
+    scene.motion().installOn(m_engine);
+    m_view.setInitialProperties({{QStringLiteral("scene"), QVariant::fromValue(&scene)},
+                                 {QStringLiteral("controller"), QVariant::fromValue(&controller)}});
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Notch/NotchRoot.qml")));
     const int modality = qmlTypeId("Brimlight.Theme", 1, 0, "InputModality");
     m_engine.singletonInstance<InputModality *>(modality)->watch(m_view);

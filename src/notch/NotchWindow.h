@@ -1,11 +1,12 @@
 #pragma once
 
 #include "core/UiTranslator.h"
-#include "notch/NotchController.h"
+#include "platform/OverlaySurface.h"
 
 #include <QQmlEngine>
 #include <QQuickView>
 
+#include <functional>
 #include <memory>
 
 namespace brimlight {
@@ -13,16 +14,20 @@ namespace brimlight {
 /// Builds the surface for a window that has not been shown yet.
 using SurfaceFactory = std::function<std::unique_ptr<OverlaySurface>(QWindow &)>;
 
+class NotchController;
+class NotchScene;
+
 /// The window that carries the view tree.
-class NotchWindow : public QObject, public NotchHosting
+class NotchWindow : public QObject
 {
 public:
     explicit NotchWindow(const SurfaceFactory &makeSurface);
     ~NotchWindow() override;
 
-    OverlaySurface &surface() override { return *m_surface; }
-    void host(NotchController &controller) override;
-    void unhost() override;
+    OverlaySurface &surface() { return *m_surface; }
+    /// Shows the view tree. Both must outlive it, which `unhost` ends.
+    void host(NotchScene &scene, NotchController &controller);
+    void unhost();
     QQuickView &view() { return m_view; }
 
 private:

@@ -1,6 +1,6 @@
 #include "sensors/BatteryFace.h"
 
-#include "sensors/SignalColors.h"
+#include "theme/SignalColors.h"
 
 namespace brimlight {
 namespace {
@@ -34,6 +34,13 @@ QColor resolveTint(const BatterySnapshot &snapshot, bool followsTheme, const QCo
     if (snapshot.percent < 0 || snapshot.percent > normalAbove)
         return normal;
     return snapshot.percent < redBelow ? signalColors::red : signalColors::orange;
+}
+
+BatteryFace::BatteryFace(WidgetContext &context, PowerSources &power)
+    : WidgetLogic(context)
+    , m_power(power)
+{
+    read();
 }
 
 QString BatteryFace::number() const

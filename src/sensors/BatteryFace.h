@@ -1,7 +1,7 @@
 #pragma once
 
+#include "grid/WidgetLogic.h"
 #include "sensors/BatteryReader.h"
-#include "sensors/MachineLogic.h"
 
 #include <QColor>
 
@@ -15,10 +15,11 @@ QColor resolveTint(const BatterySnapshot &snapshot, bool followsTheme, const QCo
                    const QColor &normal);
 
 /// What the battery widget shows.
-class BatteryFace : public brimlight::MachineLogic
+class BatteryFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString number READ number NOTIFY changed)
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
@@ -30,7 +31,7 @@ class BatteryFace : public brimlight::MachineLogic
     Q_PROPERTY(QString colorMode READ colorMode NOTIFY changed)
 
 public:
-    using MachineLogic::MachineLogic;
+    BatteryFace(WidgetContext &context, PowerSources &power);
 
     double fraction() const { return std::max(m_snapshot.percent, 0) / 100.0; }
     /// The bare number, an em dash while it is unknown.
@@ -46,10 +47,12 @@ public:
     QString colorMode() const;
 
 protected:
-    void begin(MachinePorts &machine) override { read(machine); }
-    void read(MachinePorts &machine) override { m_snapshot = BatteryReader::read(machine.power); }
+    void tick() override { read(); }
 
 private:
+    void read() { m_snapshot = BatteryReader::read(m_power); }
+
+    PowerSources &m_power;
     BatterySnapshot m_snapshot;
 };
 

@@ -1,6 +1,6 @@
 #include "sensors/BatteryHealthFace.h"
 
-#include "sensors/SignalColors.h"
+#include "theme/SignalColors.h"
 
 namespace brimlight {
 
@@ -9,6 +9,12 @@ QColor healthTint(int percent, const QColor &accent)
     constexpr int good = 80;
     constexpr int fair = 60;
     return percent >= good ? accent : percent >= fair ? signalColors::orange : signalColors::red;
+}
+
+BatteryHealthFace::BatteryHealthFace(WidgetContext &context, PowerSources &power)
+    : WidgetLogic(context)
+    , m_power(power)
+{
 }
 
 QString BatteryHealthFace::percent() const
@@ -25,12 +31,6 @@ QColor BatteryHealthFace::tint() const
 {
     const QColor accent = theme().accentColor();
     return m_snapshot ? healthTint(m_snapshot->healthPercent, accent) : accent;
-}
-
-void BatteryHealthFace::appear()
-{
-    if (machine())
-        begin(*machine());
 }
 
 } // namespace brimlight

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "grid/WidgetLogic.h"
 #include "sensors/BatteryHealthReader.h"
-#include "sensors/MachineLogic.h"
 
 #include <QColor>
 
@@ -11,10 +11,11 @@ namespace brimlight {
 QColor healthTint(int percent, const QColor &accent);
 
 /// What the battery health widget shows; read each time it appears.
-class BatteryHealthFace : public brimlight::MachineLogic
+class BatteryHealthFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(bool hasBattery READ hasBattery NOTIFY changed)
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
@@ -22,7 +23,7 @@ class BatteryHealthFace : public brimlight::MachineLogic
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
 
 public:
-    using MachineLogic::MachineLogic;
+    BatteryHealthFace(WidgetContext &context, PowerSources &power);
 
     bool hasBattery() const { return m_snapshot.has_value(); }
     double fraction() const { return m_snapshot ? m_snapshot->healthPercent / 100.0 : 0; }
@@ -32,11 +33,10 @@ public:
     QColor tint() const;
 
 protected:
-    void begin(MachinePorts &machine) override { m_snapshot = BatteryHealthReader::read(machine.power); }
-    void read(MachinePorts &) override {}
-    void appear() override;
+    void appear() override { m_snapshot = BatteryHealthReader::read(m_power); }
 
 private:
+    PowerSources &m_power;
     std::optional<BatteryHealthSnapshot> m_snapshot;
 };
 

@@ -8,36 +8,29 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property BatteryHealthFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isLarge: context.size === "large"
     readonly property bool isWide: context.size === "wide"
 
-    BatteryHealthFace {
-        id: health
-
-        context: root.context
-        machine: root.machine
-    }
-
     MeterRing {
         id: ring
 
-        visible: health.hasBattery
+        visible: root.face.hasBattery
         width: root.isLarge ? 92 : root.height
         height: width
         x: root.isWide ? 0 : (root.width - width) / 2
         y: root.isLarge ? 6 : 0
         colors: root.colors
-        value: health.fraction
-        text: health.percent
+        value: root.face.fraction
+        text: root.face.percent
         caption: root.isLarge ? "Health" : ""
-        tint: health.tint
+        tint: root.face.tint
         lineWidth: root.isLarge ? 8 : 5
         textSize: root.isLarge ? 22 : 13
     }
     Column {
-        visible: root.isWide && health.hasBattery
+        visible: root.isWide && root.face.hasBattery
         anchors.left: ring.right
         anchors.leftMargin: 10
         anchors.right: parent.right
@@ -48,26 +41,26 @@ Item {
             colors: root.colors
             symbol: "cross.case.fill"
             text: "Health"
-            tint: health.tint
+            tint: root.face.tint
         }
         Caption {
             width: parent.width
             colors: root.colors
-            text: health.cycles
+            text: root.face.cycles
         }
     }
     Caption {
-        visible: root.isLarge && health.hasBattery
+        visible: root.isLarge && root.face.hasBattery
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 12
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         colors: root.colors
-        text: health.cycles
+        text: root.face.cycles
     }
     // Stacked, or side by side where it is wide.
     Grid {
-        visible: !health.hasBattery
+        visible: !root.face.hasBattery
         anchors.centerIn: parent
         columns: root.isWide ? 2 : 1
         columnSpacing: 8

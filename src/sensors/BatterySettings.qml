@@ -8,17 +8,11 @@ Column {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property BatteryFace face
     readonly property theme colors: context.theme.shown
 
     spacing: 6
 
-    BatteryFace {
-        id: battery
-
-        context: root.context
-        machine: root.machine
-    }
     Text {
         text: "Battery Settings"
         color: root.colors.textPrimary
@@ -34,7 +28,7 @@ Column {
         label: "Color:"
         labels: ["Dynamic", "Theme"]
         values: ["dynamic", "theme"]
-        value: battery.colorMode
+        value: root.face.colorMode
         onChosen: value => root.context.setOption("colorMode", value)
     }
 }

@@ -8,16 +8,9 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property BatteryFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isLarge: context.size === "large"
-
-    BatteryFace {
-        id: battery
-
-        context: root.context
-        machine: root.machine
-    }
 
     MeterRing {
         id: ring
@@ -30,10 +23,10 @@ Item {
         x: root.context.size === "wide" ? 0 : (root.width - width) / 2
         y: root.isLarge ? 4 : 0
         colors: root.colors
-        value: battery.fraction
-        text: battery.number
-        symbol: battery.charging ? "bolt.fill" : ""
-        tint: battery.tint
+        value: root.face.fraction
+        text: root.face.number
+        symbol: root.face.charging ? "bolt.fill" : ""
+        tint: root.face.tint
         lineWidth: root.isLarge ? 8 : 5
         textSize: root.isLarge ? 25 : 15
         duration: Motion.rolling.duration
@@ -41,7 +34,7 @@ Item {
         opacity: 0.72 + 0.28 * pulse
 
         SequentialAnimation {
-            running: battery.charging && root.context.live && !Motion.reduced
+            running: root.face.charging && root.context.live && !Motion.reduced
             loops: Animation.Infinite
             onRunningChanged: {
                 if (!running)
@@ -74,20 +67,20 @@ Item {
 
         WidgetTitle {
             colors: root.colors
-            symbol: battery.symbol
-            text: battery.percent
-            tint: battery.tint
+            symbol: root.face.symbol
+            text: root.face.percent
+            tint: root.face.tint
         }
         Caption {
             width: parent.width
             colors: root.colors
-            text: battery.detail
+            text: root.face.detail
         }
         Caption {
             width: parent.width
             colors: root.colors
             font.pixelSize: 9
-            text: battery.status
+            text: root.face.status
         }
     }
     Column {
@@ -100,15 +93,15 @@ Item {
         WidgetTitle {
             anchors.horizontalCenter: parent.horizontalCenter
             colors: root.colors
-            symbol: battery.symbol
-            text: battery.detail
-            tint: battery.tint
+            symbol: root.face.symbol
+            text: root.face.detail
+            tint: root.face.tint
         }
         Caption {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             colors: root.colors
-            text: battery.status
+            text: root.face.status
         }
     }
 }

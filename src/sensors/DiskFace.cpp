@@ -1,7 +1,7 @@
 #include "sensors/DiskFace.h"
 
 #include "sensors/Percent.h"
-#include "sensors/SignalColors.h"
+#include "theme/SignalColors.h"
 
 namespace brimlight {
 namespace {
@@ -25,6 +25,13 @@ QColor diskTint(double usedFraction, const QColor &accent)
 QString diskStatus(double usedFraction)
 {
     return usedFraction < watchFrom ? QStringLiteral("Healthy") : QStringLiteral("Watch");
+}
+
+DiskFace::DiskFace(WidgetContext &context, HostStatistics &statistics)
+    : WidgetLogic(context)
+    , m_statistics(statistics)
+{
+    read();
 }
 
 QString DiskFace::percent() const

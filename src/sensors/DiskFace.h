@@ -1,7 +1,7 @@
 #pragma once
 
+#include "grid/WidgetLogic.h"
 #include "sensors/DiskReader.h"
-#include "sensors/MachineLogic.h"
 
 #include <QColor>
 
@@ -14,10 +14,11 @@ QColor diskTint(double usedFraction, const QColor &accent);
 QString diskStatus(double usedFraction);
 
 /// What the disk widget shows.
-class DiskFace : public brimlight::MachineLogic
+class DiskFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
@@ -26,7 +27,7 @@ class DiskFace : public brimlight::MachineLogic
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
 
 public:
-    using MachineLogic::MachineLogic;
+    DiskFace(WidgetContext &context, HostStatistics &statistics);
 
     double fraction() const { return m_snapshot.usedFraction; }
     QString percent() const;
@@ -36,10 +37,12 @@ public:
     QColor tint() const { return diskTint(m_snapshot.usedFraction, theme().accentColor()); }
 
 protected:
-    void begin(MachinePorts &machine) override { read(machine); }
-    void read(MachinePorts &machine) override { m_snapshot = DiskReader::read(machine.statistics); }
+    void tick() override { read(); }
 
 private:
+    void read() { m_snapshot = DiskReader::read(m_statistics); }
+
+    HostStatistics &m_statistics;
     DiskSnapshot m_snapshot;
 };
 

@@ -8,17 +8,10 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property DiskFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isLarge: context.size === "large"
     readonly property bool isWide: context.size === "wide"
-
-    DiskFace {
-        id: disk
-
-        context: root.context
-        machine: root.machine
-    }
 
     WidgetTitle {
         visible: root.isLarge
@@ -27,7 +20,7 @@ Item {
         colors: root.colors
         symbol: "internaldrive"
         text: "Disk"
-        tint: disk.tint
+        tint: root.face.tint
     }
     Caption {
         visible: root.isLarge
@@ -35,8 +28,8 @@ Item {
         anchors.rightMargin: 5
         y: 4
         colors: root.colors
-        color: disk.tint
-        text: disk.status
+        color: root.face.tint
+        text: root.face.status
     }
     MeterRing {
         id: ring
@@ -46,9 +39,9 @@ Item {
         x: root.isWide ? 0 : (root.width - width) / 2
         y: root.isLarge ? 27 : 0
         colors: root.colors
-        value: disk.fraction
-        text: disk.percent
-        tint: disk.tint
+        value: root.face.fraction
+        text: root.face.percent
+        tint: root.face.tint
         lineWidth: root.isLarge ? 8 : 4
         textSize: root.isLarge ? 21 : 13
     }
@@ -64,12 +57,12 @@ Item {
             colors: root.colors
             symbol: "internaldrive"
             text: "Disk"
-            tint: disk.tint
+            tint: root.face.tint
         }
         Caption {
             width: parent.width
             colors: root.colors
-            text: disk.freeText
+            text: root.face.freeText
         }
     }
     Caption {
@@ -79,6 +72,6 @@ Item {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         colors: root.colors
-        text: disk.freeText
+        text: root.face.freeText
     }
 }

@@ -28,6 +28,12 @@ QString compactRate(double bytesPerSecond)
     return QString::asprintf("%.0f", bytesPerSecond);
 }
 
+NetworkFace::NetworkFace(WidgetContext &context, HostStatistics &statistics)
+    : WidgetLogic(context)
+    , m_reader(statistics)
+{
+}
+
 QList<double> NetworkFace::bars() const
 {
     QList<double> bars = m_history;
@@ -37,9 +43,9 @@ QList<double> NetworkFace::bars() const
     return bars;
 }
 
-void NetworkFace::read(MachinePorts &)
+void NetworkFace::tick()
 {
-    m_snapshot = m_reader->read();
+    m_snapshot = m_reader.read();
     m_history.append(m_snapshot.down);
     if (m_history.size() > longestHistory)
         m_history.removeFirst();

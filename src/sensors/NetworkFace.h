@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sensors/MachineLogic.h"
+#include "grid/WidgetLogic.h"
 #include "sensors/NetworkReader.h"
 
 namespace brimlight {
@@ -11,10 +11,11 @@ QString rateText(double bytesPerSecond);
 QString compactRate(double bytesPerSecond);
 
 /// What the network widget shows. Every widget has a baseline of its own, so its first rates are zero.
-class NetworkFace : public brimlight::MachineLogic
+class NetworkFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(QString down READ down NOTIFY changed)
     Q_PROPERTY(QString up READ up NOTIFY changed)
     Q_PROPERTY(QString compactDown READ compactDown NOTIFY changed)
@@ -24,7 +25,7 @@ class NetworkFace : public brimlight::MachineLogic
 public:
     static constexpr qsizetype longestHistory = 24;
 
-    using MachineLogic::MachineLogic;
+    NetworkFace(WidgetContext &context, HostStatistics &statistics);
 
     QString down() const { return rateText(m_snapshot.down); }
     QString up() const { return rateText(m_snapshot.up); }
@@ -34,11 +35,10 @@ public:
     QList<double> bars() const;
 
 protected:
-    void begin(MachinePorts &machine) override { m_reader.emplace(machine.statistics); }
-    void read(MachinePorts &machine) override;
+    void tick() override;
 
 private:
-    std::optional<NetworkReader> m_reader;
+    NetworkReader m_reader;
     NetSnapshot m_snapshot;
     QList<double> m_history;
 };

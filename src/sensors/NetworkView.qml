@@ -8,16 +8,9 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property NetworkFace face
     readonly property theme colors: context.theme.shown
     readonly property string size: context.size
-
-    NetworkFace {
-        id: network
-
-        context: root.context
-        machine: root.machine
-    }
 
     WidgetTitle {
         id: heading
@@ -43,14 +36,14 @@ Item {
             width: parent.width
             colors: root.colors
             symbol: "arrow.down"
-            text: rates.isSmall ? network.compactDown : network.down
+            text: rates.isSmall ? root.face.compactDown : root.face.down
             textSize: root.size === "large" ? 15 : 12
         }
         RateLine {
             width: parent.width
             colors: root.colors
             symbol: "arrow.up"
-            text: rates.isSmall ? network.compactUp : network.up
+            text: rates.isSmall ? root.face.compactUp : root.face.up
             tint: root.colors.textSecondary
             textSize: root.size === "large" ? 15 : 12
         }
@@ -62,7 +55,7 @@ Item {
         width: root.width - x - (root.size === "large" ? heading.x : 0)
         height: root.size === "large" ? 44 : 20
         colors: root.colors
-        bars: visible ? network.bars : []
+        bars: visible ? root.face.bars : []
         longest: 24
     }
 }

@@ -2,42 +2,28 @@
 
 namespace brimlight {
 
-QuickTogglesStore::QuickTogglesStore(QObject *parent)
-    : WidgetLogic(parent)
+QuickTogglesStore::QuickTogglesStore(WidgetContext &context, ScriptHost &scripts,
+                                     PowerAssertions &powerAssertions, SystemSounds &sounds,
+                                     const Appearance &appearance)
+    : WidgetLogic(context)
+    , m_scripts(scripts)
+    , m_powerAssertions(powerAssertions)
+    , m_sounds(sounds)
+    , m_appearance(appearance)
 {
-    connect(this, &WidgetLogic::contextChanged, this, &QuickTogglesStore::begin);
 }
 
 QuickTogglesStore::~QuickTogglesStore()
 {
     // With the widget goes the only switch that could end it.
-    if (m_caffeineActive && m_ports)
-        m_ports->powerAssertions.release(m_assertionID);
-}
-
-void QuickTogglesStore::setPorts(SwitchPorts *ports)
-{
-    m_ports = ports;
-    Q_EMIT portsChanged();
-    begin();
-}
-
-void QuickTogglesStore::begin()
-{
-    if (context() && context()->isLive())
-        appear();
-}
-
-void QuickTogglesStore::appear()
-{
-    if (m_ports)
-        updateStates();
+    if (m_caffeineActive)
+        m_powerAssertions.release(m_assertionID);
 }
 
 void QuickTogglesStore::updateStates()
 {
-    setDarkModeActive(m_ports->appearance.isDark());
-    m_ports->scripts.run(systemScripts::outputMuted, *this, [this](const std::optional<QString> &reply) {
+    setDarkModeActive(m_appearance.isDark());
+    m_scripts.run(systemScripts::outputMuted, *this, [this](const std::optional<QString> &reply) {
         setMutedActive(reply == QStringLiteral("true"));
     });
 }
@@ -45,12 +31,11 @@ void QuickTogglesStore::updateStates()
 void QuickTogglesStore::toggleCaffeine()
 {
     setCaffeineActive(!m_caffeineActive);
-    PowerAssertions &assertions = m_ports->powerAssertions;
     if (m_caffeineActive)
-        m_assertionID = assertions.create(QStringLiteral("Brimlight Caffeine"), *this,
-                                          [this] { setCaffeineActive(false); });
+        m_assertionID = m_powerAssertions.create(QStringLiteral("Brimlight Caffeine"), *this,
+                                                 [this] { setCaffeineActive(false); });
     else
-        assertions.release(m_assertionID);
+        m_powerAssertions.release(m_assertionID);
 }
 
 void QuickTogglesStore::toggleDarkMode()
@@ -65,16 +50,13 @@ void QuickTogglesStore::toggleMute()
 
 void QuickTogglesStore::emptyTrash()
 {
-    m_ports->scripts.run(systemScripts::emptyTrash, *this, [](const std::optional<QString> &) {});
-    m_ports->sounds.play(QStringLiteral("Trash"));
+    m_scripts.run(systemScripts::emptyTrash, *this, [](const std::optional<QString> &) {});
+    m_sounds.play(QStringLiteral("Trash"));
 }
 
 void QuickTogglesStore::runAndUpdate(const QString &script)
 {
-    m_ports->scripts.run(script, *this, [this](const std::optional<QString> &) {
-        if (m_ports)
-            updateStates();
-    });
+    m_scripts.run(script, *this, [this](const std::optional<QString> &) { updateStates(); });
 }
 
 void QuickTogglesStore::setCaffeineActive(bool active)

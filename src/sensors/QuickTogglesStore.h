@@ -1,7 +1,10 @@
 #pragma once
 
 #include "grid/WidgetLogic.h"
-#include "sensors/SwitchPorts.h"
+#include "platform/Appearance.h"
+#include "platform/PowerAssertions.h"
+#include "platform/ScriptHost.h"
+#include "platform/SystemSounds.h"
 
 namespace brimlight {
 
@@ -11,17 +14,15 @@ class QuickTogglesStore : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(brimlight::SwitchPorts *ports READ ports WRITE setPorts NOTIFY portsChanged REQUIRED)
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(bool caffeineActive READ caffeineActive NOTIFY caffeineActiveChanged)
     Q_PROPERTY(bool darkModeActive READ darkModeActive NOTIFY darkModeActiveChanged)
     Q_PROPERTY(bool mutedActive READ mutedActive NOTIFY mutedActiveChanged)
 
 public:
-    explicit QuickTogglesStore(QObject *parent = nullptr);
+    QuickTogglesStore(WidgetContext &context, ScriptHost &scripts, PowerAssertions &powerAssertions,
+                      SystemSounds &sounds, const Appearance &appearance);
     ~QuickTogglesStore() override;
-
-    SwitchPorts *ports() const { return m_ports; }
-    void setPorts(SwitchPorts *ports);
 
     /// The display is kept awake. Not stored: off at every start.
     bool caffeineActive() const { return m_caffeineActive; }
@@ -36,23 +37,23 @@ public:
     Q_INVOKABLE void emptyTrash();
 
 Q_SIGNALS:
-    void portsChanged();
     void caffeineActiveChanged();
     void darkModeActiveChanged();
     void mutedActiveChanged();
 
 protected:
-    void appear() override;
+    void appear() override { updateStates(); }
 
 private:
     void setCaffeineActive(bool active);
     void setDarkModeActive(bool active);
     void setMutedActive(bool active);
-    /// As soon as both are known, when the widget is on screen from the start.
-    void begin();
     void runAndUpdate(const QString &script);
 
-    QPointer<SwitchPorts> m_ports;
+    ScriptHost &m_scripts;
+    PowerAssertions &m_powerAssertions;
+    SystemSounds &m_sounds;
+    const Appearance &m_appearance;
     bool m_caffeineActive = false;
     bool m_darkModeActive = false;
     bool m_mutedActive = false;

@@ -8,17 +8,10 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property SwitchPorts switches
+    required property QuickTogglesStore face
     readonly property theme colors: context.theme.shown
     readonly property bool isSmall: context.size === "small"
     readonly property bool isLarge: context.size === "large"
-
-    QuickTogglesStore {
-        id: store
-
-        context: root.context
-        ports: root.switches
-    }
 
     WidgetTitle {
         id: heading
@@ -43,30 +36,30 @@ Item {
             symbol: "cup.and.saucer.fill"
             label: "Caffeine"
             caption: "Caffeine"
-            on: store.caffeineActive
-            onClicked: store.toggleCaffeine()
+            on: root.face.caffeineActive
+            onClicked: root.face.toggleCaffeine()
         }
         QuickToggle {
             visible: !root.isSmall
             width: row.width / 4
             colors: root.colors
             size: root.context.size
-            symbol: store.darkModeActive ? "moon.fill" : "sun.max"
+            symbol: root.face.darkModeActive ? "moon.fill" : "sun.max"
             label: "Dark Mode"
             caption: "Dark"
-            on: store.darkModeActive
-            onClicked: store.toggleDarkMode()
+            on: root.face.darkModeActive
+            onClicked: root.face.toggleDarkMode()
         }
         QuickToggle {
             visible: !root.isSmall
             width: row.width / 4
             colors: root.colors
             size: root.context.size
-            symbol: store.mutedActive ? "speaker.slash.fill" : "speaker.wave.2"
+            symbol: root.face.mutedActive ? "speaker.slash.fill" : "speaker.wave.2"
             label: "Mute"
             caption: "Mute"
-            on: store.mutedActive
-            onClicked: store.toggleMute()
+            on: root.face.mutedActive
+            onClicked: root.face.toggleMute()
         }
         QuickToggle {
             visible: !root.isSmall
@@ -77,7 +70,7 @@ Item {
             label: "Empty Trash"
             caption: "Trash"
             stays: false
-            onClicked: store.emptyTrash()
+            onClicked: root.face.emptyTrash()
         }
     }
 }

@@ -1,9 +1,11 @@
 #include "sensors/SystemFace.h"
 
+#include "platform/HostStatistics.h"
 #include "sensors/Percent.h"
-#include "sensors/SignalColors.h"
+#include "theme/SignalColors.h"
 
 namespace brimlight {
+
 QColor loadTint(double fraction, const QColor &accent)
 {
     constexpr double orangeFrom = 0.7;
@@ -15,6 +17,13 @@ QString ramDetail(double usedFraction, uint64_t total)
 {
     const double gigabytes = static_cast<double>(total) / 1e9;
     return QString::asprintf("RAM %.1f / %.0f GB", usedFraction * gigabytes, gigabytes);
+}
+
+SystemFace::SystemFace(WidgetContext &context, HostStatistics &statistics)
+    : WidgetLogic(context)
+    , m_statistics(statistics)
+    , m_reader(statistics)
+{
 }
 
 QString SystemFace::cpuText() const
@@ -29,7 +38,7 @@ QString SystemFace::ramText() const
 
 QString SystemFace::detail() const
 {
-    return ramDetail(ram(), machine() ? machine()->statistics.physicalMemory() : 0);
+    return ramDetail(ram(), m_statistics.physicalMemory());
 }
 
 } // namespace brimlight

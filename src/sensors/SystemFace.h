@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sensors/MachineLogic.h"
+#include "grid/WidgetLogic.h"
 #include "sensors/SystemReader.h"
 
 #include <QColor>
@@ -12,10 +12,11 @@ QColor loadTint(double fraction, const QColor &accent);
 QString ramDetail(double usedFraction, uint64_t total);
 
 /// What the processor and memory widget shows. Every widget has a baseline of its own.
-class SystemFace : public brimlight::MachineLogic
+class SystemFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(double cpu READ cpu NOTIFY changed)
     Q_PROPERTY(double ram READ ram NOTIFY changed)
     Q_PROPERTY(QString cpuText READ cpuText NOTIFY changed)
@@ -25,7 +26,7 @@ class SystemFace : public brimlight::MachineLogic
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
 
 public:
-    using MachineLogic::MachineLogic;
+    SystemFace(WidgetContext &context, HostStatistics &statistics);
 
     double cpu() const { return m_snapshot.cpu; }
     double ram() const { return m_snapshot.memUsed; }
@@ -36,11 +37,11 @@ public:
     QString detail() const;
 
 protected:
-    void begin(MachinePorts &machine) override { m_reader.emplace(machine.statistics); }
-    void read(MachinePorts &) override { m_snapshot = m_reader->read(); }
+    void tick() override { m_snapshot = m_reader.read(); }
 
 private:
-    std::optional<SystemReader> m_reader;
+    HostStatistics &m_statistics;
+    SystemReader m_reader;
     SystemSnapshot m_snapshot;
 };
 

@@ -1,5 +1,8 @@
 #include "sensors/SystemInfoFace.h"
 
+#include "platform/HostStatistics.h"
+#include "platform/MachineInfo.h"
+
 namespace brimlight {
 
 QString uptimeString(int64_t seconds)
@@ -14,17 +17,24 @@ QString uptimeString(int64_t seconds)
     return QStringLiteral("%1m").arg(seconds / minute);
 }
 
+SystemInfoFace::SystemInfoFace(WidgetContext &context, HostStatistics &statistics, MachineInfo &info)
+    : WidgetLogic(context)
+    , m_statistics(statistics)
+    , m_info(info)
+{
+    read();
+}
+
 QStringList SystemInfoFace::labels() const
 {
     return {QStringLiteral("Uptime"), QStringLiteral("Linux"), QStringLiteral("Device"),
             QStringLiteral("Chip")};
 }
 
-void SystemInfoFace::read(MachinePorts &machine)
+void SystemInfoFace::read()
 {
-    MachineInfo &info = machine.info;
-    m_values = {uptimeString(static_cast<int64_t>(machine.statistics.uptime())), info.osVersion(),
-                info.hostName().remove(QStringLiteral(".local")), info.chip().value_or(QString())};
+    m_values = {uptimeString(static_cast<int64_t>(m_statistics.uptime())), m_info.osVersion(),
+                m_info.hostName().remove(QStringLiteral(".local")), m_info.chip().value_or(QString())};
 }
 
 } // namespace brimlight

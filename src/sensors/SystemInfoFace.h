@@ -1,31 +1,38 @@
 #pragma once
 
-#include "sensors/MachineLogic.h"
+#include "grid/WidgetLogic.h"
 
 namespace brimlight {
+
+class HostStatistics;
+class MachineInfo;
 
 /// "3d 4h", "4h 12m" or "12m"; whole seconds.
 QString uptimeString(int64_t seconds);
 
 /// What the system info widget shows: four rows of label and value.
-class SystemInfoFace : public brimlight::MachineLogic
+class SystemInfoFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(QStringList labels READ labels CONSTANT)
     Q_PROPERTY(QStringList values READ values NOTIFY changed)
 
 public:
-    using MachineLogic::MachineLogic;
+    SystemInfoFace(WidgetContext &context, HostStatistics &statistics, MachineInfo &info);
 
     QStringList labels() const;
     QStringList values() const { return m_values; }
 
 protected:
-    void begin(MachinePorts &machine) override { read(machine); }
-    void read(MachinePorts &machine) override;
+    void tick() override { read(); }
 
 private:
+    void read();
+
+    HostStatistics &m_statistics;
+    MachineInfo &m_info;
     QStringList m_values;
 };
 

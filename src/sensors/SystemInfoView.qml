@@ -8,17 +8,10 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property SystemInfoFace face
     readonly property theme colors: context.theme.shown
     readonly property string size: context.size
     readonly property bool isStacked: size === "tall" || size === "large"
-
-    SystemInfoFace {
-        id: info
-
-        context: root.context
-        machine: root.machine
-    }
 
     WidgetTitle {
         id: heading
@@ -36,19 +29,19 @@ Item {
         height: parent.height - y
 
         Repeater {
-            model: info.labels.length
+            model: root.face.labels.length
 
             Item {
                 id: entry
 
                 required property int index
-                readonly property string label: info.labels[index]
-                readonly property string value: info.values[index] ?? ""
+                readonly property string label: root.face.labels[index]
+                readonly property string value: root.face.values[index] ?? ""
                 // The chip's name is long.
-                readonly property bool wraps: root.isStacked && index === info.labels.length - 1
+                readonly property bool wraps: root.isStacked && index === root.face.labels.length - 1
 
                 width: parent.width
-                height: parent.height / info.labels.length
+                height: parent.height / root.face.labels.length
                 y: index * height
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label + " " + value

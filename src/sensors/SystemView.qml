@@ -8,17 +8,10 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
+    required property SystemFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isSmall: context.size === "small"
     readonly property bool isLarge: context.size === "large"
-
-    SystemFace {
-        id: system
-
-        context: root.context
-        machine: root.machine
-    }
 
     component Meter: MeterRing {
         width: root.isLarge ? 66 : root.height
@@ -48,21 +41,21 @@ Item {
                 MeterRing {
                     anchors.fill: parent
                     colors: root.colors
-                    value: system.cpu
+                    value: root.face.cpu
                     text: ""
-                    tint: system.cpuTint
+                    tint: root.face.cpuTint
                     lineWidth: 4
-                    Accessible.name: "CPU " + system.cpuText
+                    Accessible.name: "CPU " + root.face.cpuText
                 }
                 MeterRing {
                     anchors.fill: parent
                     anchors.margins: 7
                     colors: root.colors
-                    value: system.ram
+                    value: root.face.ram
                     text: ""
-                    tint: system.ramTint
+                    tint: root.face.ramTint
                     lineWidth: 4
-                    Accessible.name: "RAM " + system.ramText
+                    Accessible.name: "RAM " + root.face.ramText
                 }
                 // The outer ring's number above the inner one's.
                 Column {
@@ -71,7 +64,7 @@ Item {
 
                     Text {
                         anchors.horizontalCenter: parent.horizontalCenter
-                        text: system.cpuText
+                        text: root.face.cpuText
                         color: root.colors.textPrimary
                         font.family: Fonts.rounded
                         font.pixelSize: 10
@@ -79,7 +72,7 @@ Item {
                     }
                     Text {
                         anchors.horizontalCenter: parent.horizontalCenter
-                        text: system.ramText
+                        text: root.face.ramText
                         color: root.colors.textSecondary
                         font.family: Fonts.rounded
                         font.pixelSize: 9
@@ -95,18 +88,18 @@ Item {
                 Meter {
                     x: root.isLarge ? 0 : (root.width / 2 - width) / 2
                     y: root.isLarge ? 33 : 0
-                    value: system.cpu
-                    text: system.cpuText
+                    value: root.face.cpu
+                    text: root.face.cpuText
                     caption: "CPU"
-                    tint: system.cpuTint
+                    tint: root.face.cpuTint
                 }
                 Meter {
                     x: root.isLarge ? root.width - width : root.width / 2 + (root.width / 2 - width) / 2
                     y: root.isLarge ? 33 : 0
-                    value: system.ram
-                    text: system.ramText
+                    value: root.face.ram
+                    text: root.face.ramText
                     caption: "RAM"
-                    tint: system.ramTint
+                    tint: root.face.ramTint
                 }
             }
         }
@@ -118,6 +111,6 @@ Item {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         colors: root.colors
-        text: system.detail
+        text: root.face.detail
     }
 }

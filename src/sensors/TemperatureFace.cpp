@@ -1,6 +1,6 @@
 #include "sensors/TemperatureFace.h"
 
-#include "sensors/SignalColors.h"
+#include "theme/SignalColors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,46 +41,44 @@ QString thermalStateText(ThermalState state)
     Q_UNREACHABLE();
 }
 
-void TemperatureFace::setTemperature(TemperatureService *temperature)
+TemperatureFace::TemperatureFace(WidgetContext &context, TemperatureService &temperature,
+                                 HostStatistics &statistics)
+    : WidgetLogic(context)
+    , m_temperature(temperature)
+    , m_statistics(statistics)
+    , m_state(statistics.thermalState())
 {
-    if (m_temperature)
-        disconnect(m_temperature, nullptr, this, nullptr);
-    m_temperature = temperature;
-    if (m_temperature)
-        connect(m_temperature, &TemperatureService::latestChanged, this, &TemperatureFace::changed);
-    Q_EMIT temperatureChanged();
-    Q_EMIT changed();
+    connect(&temperature, &TemperatureService::latestChanged, this, &TemperatureFace::changed);
 }
 
 QString TemperatureFace::unit() const
 {
-    return isCelsius() ? QStringLiteral("°C") : QStringLiteral("°F");
+    return settings().celsius() ? QStringLiteral("°C") : QStringLiteral("°F");
 }
 
-void TemperatureFace::read(MachinePorts &machine)
+void TemperatureFace::tick()
 {
-    if (m_temperature)
-        m_temperature->refresh();
+    m_temperature.refresh();
     // It stands in for a temperature, and asking for it is dear: every zone and every fan has to answer.
     if (!cpu())
-        m_state = machine.statistics.thermalState();
+        m_state = m_statistics.thermalState();
 }
 
 std::optional<double> TemperatureFace::cpu() const
 {
-    const auto latest = m_temperature ? m_temperature->latest() : std::nullopt;
+    const auto &latest = m_temperature.latest();
     return latest ? latest->cpuMaxC : std::nullopt;
 }
 
 std::optional<double> TemperatureFace::battery() const
 {
-    const auto latest = m_temperature ? m_temperature->latest() : std::nullopt;
+    const auto &latest = m_temperature.latest();
     return latest ? latest->batteryC : std::nullopt;
 }
 
 QString TemperatureFace::number(std::optional<double> celsius) const
 {
-    return celsius ? QString::number(displayTemperature(*celsius, isCelsius())) : QString();
+    return celsius ? QString::number(displayTemperature(*celsius, settings().celsius())) : QString();
 }
 
 } // namespace brimlight

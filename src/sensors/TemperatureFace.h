@@ -1,6 +1,7 @@
 #pragma once
 
-#include "sensors/MachineLogic.h"
+#include "grid/WidgetLogic.h"
+#include "platform/HostStatistics.h"
 #include "sensors/TemperatureService.h"
 
 #include <QColor>
@@ -17,12 +18,11 @@ QString thermalStateText(ThermalState state);
 
 /// What the temperature widget shows. Every tick takes a reading; without one of the processor the machine's
 /// own word of its state stands in.
-class TemperatureFace : public brimlight::MachineLogic
+class TemperatureFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(brimlight::TemperatureService *temperature READ temperature WRITE setTemperature NOTIFY
-                   temperatureChanged REQUIRED)
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(bool hasCpu READ hasCpu NOTIFY changed)
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString cpuText READ cpuText NOTIFY changed)
@@ -33,10 +33,7 @@ class TemperatureFace : public brimlight::MachineLogic
     Q_PROPERTY(QString stateText READ stateText NOTIFY changed)
 
 public:
-    using MachineLogic::MachineLogic;
-
-    TemperatureService *temperature() const { return m_temperature; }
-    void setTemperature(TemperatureService *temperature);
+    TemperatureFace(WidgetContext &context, TemperatureService &temperature, HostStatistics &statistics);
 
     bool hasCpu() const { return cpu().has_value(); }
     double fraction() const { return temperatureFraction(cpu().value_or(0)); }
@@ -50,20 +47,17 @@ public:
     QColor tint() const { return temperatureTint(cpu().value_or(0), theme().accentColor()); }
     QString stateText() const { return thermalStateText(m_state); }
 
-Q_SIGNALS:
-    void temperatureChanged();
-
 protected:
-    void begin(MachinePorts &machine) override { m_state = machine.statistics.thermalState(); }
-    void read(MachinePorts &machine) override;
+    void tick() override;
 
 private:
     std::optional<double> cpu() const;
     std::optional<double> battery() const;
     QString number(std::optional<double> celsius) const;
 
-    QPointer<TemperatureService> m_temperature;
-    ThermalState m_state = ThermalState::nominal;
+    TemperatureService &m_temperature;
+    HostStatistics &m_statistics;
+    ThermalState m_state;
 };
 
 } // namespace brimlight

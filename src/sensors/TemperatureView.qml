@@ -8,18 +8,9 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property MachinePorts machine
-    required property TemperatureService temperature
+    required property TemperatureFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isWide: context.size === "wide"
-
-    TemperatureFace {
-        id: face
-
-        context: root.context
-        machine: root.machine
-        temperature: root.temperature
-    }
 
     component BatteryLine: Row {
         spacing: 5
@@ -32,30 +23,30 @@ Item {
         }
         Caption {
             colors: root.colors
-            text: face.batteryText
+            text: root.face.batteryText
         }
     }
 
     MeterRing {
         id: ring
 
-        visible: face.hasCpu
-        width: root.height - (root.isWide || !face.hasBattery ? 0 : 14)
+        visible: root.face.hasCpu
+        width: root.height - (root.isWide || !root.face.hasBattery ? 0 : 14)
         height: width
         x: root.isWide ? 0 : (root.width - width) / 2
         colors: root.colors
-        value: face.fraction
-        text: face.cpuText
-        tint: face.tint
-        textSize: root.isWide || !face.hasBattery ? 15 : 12
+        value: root.face.fraction
+        text: root.face.cpuText
+        tint: root.face.tint
+        textSize: root.isWide || !root.face.hasBattery ? 15 : 12
     }
     BatteryLine {
-        visible: !root.isWide && face.hasCpu && face.hasBattery
+        visible: !root.isWide && root.face.hasCpu && root.face.hasBattery
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
     }
     Column {
-        visible: root.isWide && face.hasCpu
+        visible: root.isWide && root.face.hasCpu
         anchors.left: ring.right
         anchors.leftMargin: 10
         anchors.right: parent.right
@@ -65,16 +56,16 @@ Item {
         WidgetTitle {
             colors: root.colors
             symbol: "cpu"
-            text: "CPU " + face.unit
-            tint: face.tint
+            text: "CPU " + root.face.unit
+            tint: root.face.tint
         }
         BatteryLine {
-            visible: face.hasBattery
+            visible: root.face.hasBattery
         }
     }
     // Stacked where it is small, side by side where it is wide.
     Grid {
-        visible: !face.hasCpu
+        visible: !root.face.hasCpu
         anchors.centerIn: parent
         columns: root.isWide ? 2 : 1
         columnSpacing: 8
@@ -88,7 +79,7 @@ Item {
             color: root.colors.accent
         }
         Text {
-            text: face.stateText
+            text: root.face.stateText
             color: root.colors.textPrimary
             font.family: Fonts.rounded
             font.pixelSize: root.isWide ? 14 : 11

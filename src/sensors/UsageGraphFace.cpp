@@ -3,25 +3,23 @@
 #include "sensors/Percent.h"
 
 namespace brimlight {
-void UsageGraphFace::setHistory(SystemHistoryStore *history)
+
+UsageGraphFace::UsageGraphFace(WidgetContext &context, SystemHistoryStore &history)
+    : WidgetLogic(context)
+    , m_history(history)
 {
-    if (m_history)
-        disconnect(m_history, nullptr, this, nullptr);
-    m_history = history;
     // The memory's history is the last of the three to change with a sample.
-    if (m_history)
-        connect(m_history, &SystemHistoryStore::memHistoryChanged, this, &UsageGraphFace::historyChanged);
-    Q_EMIT historyChanged();
+    connect(&history, &SystemHistoryStore::memHistoryChanged, this, &UsageGraphFace::historyChanged);
 }
 
 QString UsageGraphFace::cpuText() const
 {
-    return wholePercent(m_history ? m_history->snapshot().cpu : 0);
+    return wholePercent(m_history.snapshot().cpu);
 }
 
 QString UsageGraphFace::ramText() const
 {
-    return wholePercent(m_history ? m_history->snapshot().memUsed : 0);
+    return wholePercent(m_history.snapshot().memUsed);
 }
 
 } // namespace brimlight

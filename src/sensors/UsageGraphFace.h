@@ -12,8 +12,7 @@ class UsageGraphFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(
-        brimlight::SystemHistoryStore *history READ history WRITE setHistory NOTIFY historyChanged REQUIRED)
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(QList<double> cpu READ cpu NOTIFY historyChanged)
     Q_PROPERTY(QList<double> ram READ ram NOTIFY historyChanged)
     Q_PROPERTY(QString cpuText READ cpuText NOTIFY historyChanged)
@@ -21,12 +20,10 @@ class UsageGraphFace : public brimlight::WidgetLogic
     Q_PROPERTY(QColor ramColor READ ramColor CONSTANT)
 
 public:
-    using WidgetLogic::WidgetLogic;
+    UsageGraphFace(WidgetContext &context, SystemHistoryStore &history);
 
-    SystemHistoryStore *history() const { return m_history; }
-    void setHistory(SystemHistoryStore *history);
-    QList<double> cpu() const { return m_history ? m_history->cpuHistory() : QList<double>(); }
-    QList<double> ram() const { return m_history ? m_history->memHistory() : QList<double>(); }
+    const QList<double> &cpu() const { return m_history.cpuHistory(); }
+    const QList<double> &ram() const { return m_history.memHistory(); }
     QString cpuText() const;
     QString ramText() const;
     QColor ramColor() const { return QColor::fromRgbF(0.36F, 0.82F, 0.92F); }
@@ -35,7 +32,7 @@ Q_SIGNALS:
     void historyChanged();
 
 private:
-    QPointer<SystemHistoryStore> m_history;
+    SystemHistoryStore &m_history;
 };
 
 } // namespace brimlight

@@ -8,16 +8,9 @@ Item {
     id: root
 
     required property WidgetContext context
-    required property SystemHistoryStore systemHistory
+    required property UsageGraphFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isOneRow: context.size === "wide" || context.size === "banner"
-
-    UsageGraphFace {
-        id: usage
-
-        context: root.context
-        history: root.systemHistory
-    }
 
     component Legend: Row {
         id: legend
@@ -66,15 +59,15 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             label: "CPU"
-            value: usage.cpuText
+            value: root.face.cpuText
             tint: root.colors.accent
         }
         Legend {
             anchors.verticalCenter: parent.verticalCenter
             x: root.context.size === "wide" || root.context.size === "large" ? parent.width - width : cpu.width + 14
             label: "RAM"
-            value: usage.ramText
-            tint: usage.ramColor
+            value: root.face.ramText
+            tint: root.face.ramColor
         }
     }
     Item {
@@ -115,14 +108,14 @@ Item {
         Sparkline {
             width: parent.width - 22
             height: parent.height
-            values: usage.ram
-            color: usage.ramColor
+            values: root.face.ram
+            color: root.face.ramColor
             reduceMotion: Motion.reduced
         }
         Sparkline {
             width: parent.width - 22
             height: parent.height
-            values: usage.cpu
+            values: root.face.cpu
             color: root.colors.accent
             reduceMotion: Motion.reduced
         }

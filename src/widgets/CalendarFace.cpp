@@ -28,10 +28,11 @@ QList<CalendarDay> weekCells(const QDate &today, Qt::DayOfWeek firstDayOfWeek)
     return cells;
 }
 
-CalendarFace::CalendarFace(QObject *parent)
-    : WidgetLogic(parent)
+CalendarFace::CalendarFace(WidgetContext &context)
+    : WidgetLogic(context)
 {
     connect(this, &WidgetLogic::changed, this, &CalendarFace::follow);
+    follow();
 }
 
 QString CalendarFace::title() const

@@ -33,13 +33,14 @@ class CalendarFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(bool showsWeek READ showsWeek NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY dayChanged)
     Q_PROPERTY(QStringList weekdays READ weekdays CONSTANT)
     Q_PROPERTY(QVariantList cells READ cells NOTIFY dayChanged)
 
 public:
-    explicit CalendarFace(QObject *parent = nullptr);
+    explicit CalendarFace(WidgetContext &context);
 
     bool showsWeek() const { return size() == WidgetSize::wide; }
     /// "March 2026".

@@ -8,23 +8,18 @@ Item {
     id: root
 
     required property WidgetContext context
+    required property CalendarFace face
     readonly property theme colors: context.theme.shown
     readonly property real cellWidth: (width - 6 * 2) / 7
-    readonly property int rows: Math.ceil(calendar.cells.length / 7)
+    readonly property int rows: Math.ceil(root.face.cells.length / 7)
     readonly property real headerHeight: title.visible ? title.height + 3 : 0
-    readonly property real cellHeight: calendar.showsWeek ? 26 : Math.min(26, (height - headerHeight - 15 - rows * 2) / Math.max(rows, 1))
-
-    CalendarFace {
-        id: calendar
-
-        context: root.context
-    }
+    readonly property real cellHeight: root.face.showsWeek ? 26 : Math.min(26, (height - headerHeight - 15 - rows * 2) / Math.max(rows, 1))
 
     Text {
         id: title
 
-        visible: !calendar.showsWeek && root.context.size === "huge"
-        text: calendar.title
+        visible: !root.face.showsWeek && root.context.size === "huge"
+        text: root.face.title
         color: root.colors.textPrimary
         font.family: Fonts.rounded
         font.pixelSize: 13
@@ -34,13 +29,13 @@ Item {
     }
 
     Grid {
-        y: calendar.showsWeek ? (root.height - height) / 2 : root.headerHeight
+        y: root.face.showsWeek ? (root.height - height) / 2 : root.headerHeight
         columns: 7
         columnSpacing: 2
-        rowSpacing: calendar.showsWeek ? 3 : 2
+        rowSpacing: root.face.showsWeek ? 3 : 2
 
         Repeater {
-            model: calendar.weekdays
+            model: root.face.weekdays
 
             Text {
                 required property string modelData
@@ -51,12 +46,12 @@ Item {
                 text: modelData
                 color: root.colors.textSecondary
                 font.family: Fonts.rounded
-                font.pixelSize: calendar.showsWeek ? 10 : 11
+                font.pixelSize: root.face.showsWeek ? 10 : 11
                 font.weight: Font.Medium
             }
         }
         Repeater {
-            model: calendar.cells
+            model: root.face.cells
 
             Item {
                 id: cell

@@ -6,29 +6,28 @@ namespace brimlight {
 namespace {
 
 /// The option if it is one of the known values, else the first of them.
-QString known(const WidgetContext *context, const QString &key, const QStringList &values)
+QString known(const std::optional<QString> &stored, const QStringList &values)
 {
-    const QString stored = context ? context->option(key).value_or(QString()) : QString();
-    return values.contains(stored) ? stored : values.first();
+    return stored && values.contains(*stored) ? *stored : values.first();
 }
 
 } // namespace
 
 QString ClockFace::time() const
 {
-    return context() ? context()->settings()->hourMinute(now()) : QString();
+    return settings().hourMinute(now());
 }
 
 QString ClockFace::seconds() const
 {
-    if (!context() || size() == WidgetSize::small || !context()->settings()->showSeconds())
+    if (size() == WidgetSize::small || !settings().showSeconds())
         return {};
     return now().toLocalTime().toString(QStringLiteral("ss"));
 }
 
 QString ClockFace::meridiem() const
 {
-    return context() && size() != WidgetSize::small ? context()->settings()->meridiem(now()) : QString();
+    return size() != WidgetSize::small ? settings().meridiem(now()) : QString();
 }
 
 QString ClockFace::date() const
@@ -57,13 +56,13 @@ int ClockFace::fontSize() const
 
 QString ClockFace::font() const
 {
-    return known(context(), QStringLiteral("font"),
+    return known(option(QStringLiteral("font")),
                  {QStringLiteral("rounded"), QStringLiteral("monospaced"), QStringLiteral("serif")});
 }
 
 QString ClockFace::style() const
 {
-    return known(context(), QStringLiteral("style"),
+    return known(option(QStringLiteral("style")),
                  {QStringLiteral("gradient"), QStringLiteral("solid"), QStringLiteral("monochrome")});
 }
 

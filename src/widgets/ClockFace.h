@@ -10,6 +10,7 @@ class ClockFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(QString time READ time NOTIFY changed)
     Q_PROPERTY(QString seconds READ seconds NOTIFY changed)
     Q_PROPERTY(QString meridiem READ meridiem NOTIFY changed)

@@ -8,15 +8,11 @@ Column {
     id: root
 
     required property WidgetContext context
+    required property ClockFace face
     readonly property theme colors: context.theme.shown
 
     spacing: 6
 
-    ClockFace {
-        id: clock
-
-        context: root.context
-    }
     Text {
         text: "Clock Settings"
         color: root.colors.textPrimary
@@ -32,7 +28,7 @@ Column {
         label: "Design:"
         labels: ["Gradient", "Solid", "Mono"]
         values: ["gradient", "solid", "monochrome"]
-        value: clock.style
+        value: root.face.style
         onChosen: value => root.context.setOption("style", value)
     }
     SegmentedPicker {
@@ -41,7 +37,7 @@ Column {
         label: "Font:"
         labels: ["Rounded", "Mono", "Serif"]
         values: ["rounded", "monospaced", "serif"]
-        value: clock.font
+        value: root.face.font
         onChosen: value => root.context.setOption("font", value)
     }
 }

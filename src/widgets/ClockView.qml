@@ -8,14 +8,9 @@ Item {
     id: root
 
     required property WidgetContext context
+    required property ClockFace face
     readonly property theme colors: context.theme.shown
-    readonly property string family: clock.font === "monospaced" ? Fonts.monospaced : clock.font === "serif" ? Fonts.serif : Fonts.rounded
-
-    ClockFace {
-        id: clock
-
-        context: root.context
-    }
+    readonly property string family: root.face.font === "monospaced" ? Fonts.monospaced : root.face.font === "serif" ? Fonts.serif : Fonts.rounded
 
     Column {
         anchors.centerIn: parent
@@ -29,13 +24,13 @@ Item {
                 id: time
 
                 width: Math.min(implicitWidth, root.width - seconds.width - 4)
-                text: clock.time
+                text: root.face.time
                 reduceMotion: Motion.reduced
                 font.family: root.family
-                font.pixelSize: clock.fontSize
+                font.pixelSize: root.face.fontSize
                 font.weight: Font.DemiBold
-                color: clock.style === "solid" ? root.colors.accent : root.colors.textPrimary
-                gradientEnd: clock.style === "gradient" ? root.colors.accent : color
+                color: root.face.style === "solid" ? root.colors.accent : root.colors.textPrimary
+                gradientEnd: root.face.style === "gradient" ? root.colors.accent : color
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
@@ -43,20 +38,20 @@ Item {
                 id: seconds
 
                 anchors.bottom: parent.bottom
-                anchors.bottomMargin: clock.fontSize * 0.18
-                visible: clock.seconds !== "" || clock.meridiem !== ""
+                anchors.bottomMargin: root.face.fontSize * 0.18
+                visible: root.face.seconds !== "" || root.face.meridiem !== ""
 
                 Text {
                     visible: text !== ""
-                    text: clock.meridiem
+                    text: root.face.meridiem
                     color: root.colors.textSecondary
                     font.family: Fonts.rounded
                     font.pixelSize: 11
                     font.weight: Font.DemiBold
                 }
                 RollingNumber {
-                    visible: clock.seconds !== ""
-                    text: clock.seconds
+                    visible: root.face.seconds !== ""
+                    text: root.face.seconds
                     reduceMotion: Motion.reduced
                     font.family: root.family
                     font.pixelSize: 14
@@ -70,7 +65,7 @@ Item {
             visible: text !== ""
             width: Math.min(implicitWidth, root.width)
             elide: Text.ElideRight
-            text: clock.date
+            text: root.face.date
             color: root.colors.textSecondary
             font.family: Fonts.rounded
             font.pixelSize: 11

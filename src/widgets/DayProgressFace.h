@@ -17,6 +17,7 @@ class DayProgressFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(double day READ day NOTIFY changed)
     Q_PROPERTY(double week READ week NOTIFY changed)
     Q_PROPERTY(double month READ month NOTIFY changed)

@@ -8,15 +8,10 @@ Item {
     id: root
 
     required property WidgetContext context
+    required property DayProgressFace face
     readonly property theme colors: context.theme.shown
     readonly property string size: context.size
     readonly property bool isRich: size === "large" || size === "wideTall"
-
-    DayProgressFace {
-        id: progress
-
-        context: root.context
-    }
 
     Text {
         id: heading
@@ -44,17 +39,17 @@ Item {
             anchors.fill: parent
             // Half of the line and the glow stand outside of the ring's own circle.
             anchors.margins: 4
-            value: progress.day
+            value: root.face.day
             lineWidth: 6
             tint: root.colors.accent
             track: Qt.alpha(root.colors.accent, 0.18)
             reduceMotion: Motion.reduced
             Accessible.role: Accessible.ProgressBar
-            Accessible.name: "Day " + progress.dayText
+            Accessible.name: "Day " + root.face.dayText
         }
         Text {
             anchors.centerIn: parent
-            text: progress.dayText
+            text: root.face.dayText
             color: root.colors.textPrimary
             font.family: Fonts.rounded
             font.pixelSize: 13
@@ -75,16 +70,16 @@ Item {
         ProgressBar {
             width: parent.width
             label: "Week"
-            fraction: progress.week
-            text: progress.weekText
+            fraction: root.face.week
+            text: root.face.weekText
             colors: root.colors
         }
         ProgressBar {
             width: parent.width
             visible: root.size !== "banner"
             label: "Month"
-            fraction: progress.month
-            text: progress.monthText
+            fraction: root.face.month
+            text: root.face.monthText
             colors: root.colors
         }
     }

@@ -40,17 +40,15 @@ int worldClockSpacing(WidgetSize size)
 QVariantList WorldClockFace::places() const
 {
     QVariantList list;
-    if (!context())
-        return list;
     for (int i = 0; i < count(); ++i) {
         const Place &place = knownPlaces[static_cast<size_t>(i)];
         const QTimeZone zone = place.zone ? QTimeZone(place.zone) : QTimeZone::systemTimeZone();
         const bool day = isDaytime(now(), zone);
-        list.append(QVariant::fromValue(WorldClockPlace{
-            .label = QString::fromUtf16(place.label),
-            .isDay = day,
-            .symbol = day ? QStringLiteral("sun.max.fill") : QStringLiteral("moon.stars.fill"),
-            .time = context()->settings()->hourMinute(now(), zone)}));
+        list.append(QVariant::fromValue(WorldClockPlace{.label = QString::fromUtf16(place.label),
+                                                        .isDay = day,
+                                                        .symbol = day ? QStringLiteral("sun.max.fill")
+                                                                      : QStringLiteral("moon.stars.fill"),
+                                                        .time = settings().hourMinute(now(), zone)}));
     }
     return list;
 }

@@ -37,6 +37,7 @@ class WorldClockFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
     QML_ELEMENT
+    QML_UNCREATABLE("made by the definition of its kind")
     Q_PROPERTY(int count READ count NOTIFY changed)
     Q_PROPERTY(int spacing READ spacing NOTIFY changed)
     Q_PROPERTY(QVariantList places READ places NOTIFY changed)

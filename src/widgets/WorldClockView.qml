@@ -8,29 +8,24 @@ Item {
     id: root
 
     required property WidgetContext context
+    required property WorldClockFace face
     readonly property theme colors: context.theme.shown
     readonly property bool isTall: context.size === "tall"
-
-    WorldClockFace {
-        id: clock
-
-        context: root.context
-    }
 
     Column {
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width
-        spacing: clock.spacing
+        spacing: root.face.spacing
 
         Repeater {
-            model: clock.count
+            model: root.face.count
 
             Item {
                 id: place
 
                 required property int index
                 // A row that is about to go may be told of the shorter list first.
-                readonly property worldClockPlace entry: clock.places[Math.min(index, clock.count - 1)]
+                readonly property worldClockPlace entry: root.face.places[Math.min(index, root.face.count - 1)]
 
                 width: parent.width
                 height: root.isTall ? 30 : 18

@@ -1,6 +1,7 @@
 #include "app/AllWidgets.h"
 
-#include "grid/WidgetRegistry.h"
+#include "app/Stores.h"
+#include "fakes/FakePlatform.h"
 
 #include <gtest/gtest.h>
 
@@ -87,11 +88,18 @@ WidgetMetadata metadataOf(const Row &row)
             .hasSettings = row.hasSettings};
 }
 
+class AllWidgets : public testing::Test, protected FakePlatform
+{
+protected:
+    Stores stores{platform, log};
+    const WidgetRegistry &registry = stores.registry;
+    const std::vector<WidgetDefinition> &all = stores.registry.all();
+};
+
 } // namespace
 
-TEST(AllWidgets, AreTheFortyFiveOfTheTableInItsOrder)
+TEST_F(AllWidgets, AreTheFortyFiveOfTheTableInItsOrder)
 {
-    const std::vector<WidgetDefinition> all = allWidgets();
     EXPECT_EQ(table.size(), 45U);
     ASSERT_EQ(all.size(), table.size());
     for (size_t i = 0; i < table.size(); ++i) {
@@ -110,9 +118,9 @@ TEST(AllWidgets, AreTheFortyFiveOfTheTableInItsOrder)
     }
 }
 
-TEST(AllWidgets, TheDefaultSizeIsAllowedAndEachSizeOfferedOnce)
+TEST_F(AllWidgets, TheDefaultSizeIsAllowedAndEachSizeOfferedOnce)
 {
-    for (const WidgetDefinition &definition : allWidgets()) {
+    for (const WidgetDefinition &definition : all) {
         const WidgetMetadata &metadata = definition.metadata;
         SCOPED_TRACE(qPrintable(metadata.kind));
         EXPECT_TRUE(metadata.allowedSizes.contains(metadata.defaultSize));
@@ -121,10 +129,10 @@ TEST(AllWidgets, TheDefaultSizeIsAllowedAndEachSizeOfferedOnce)
     }
 }
 
-TEST(AllWidgets, ThreeKindsHaveSettingsAndNoOtherHasABack)
+TEST_F(AllWidgets, ThreeKindsHaveSettingsAndNoOtherHasABack)
 {
     QStringList kinds;
-    for (const WidgetDefinition &definition : allWidgets()) {
+    for (const WidgetDefinition &definition : all) {
         if (definition.metadata.hasSettings)
             kinds.append(definition.metadata.kind);
         else
@@ -134,9 +142,8 @@ TEST(AllWidgets, ThreeKindsHaveSettingsAndNoOtherHasABack)
               (QStringList{QStringLiteral("clock"), QStringLiteral("battery"), QStringLiteral("pomodoro")}));
 }
 
-TEST(AllWidgets, ASymbolIsNoKeyButAKindIs)
+TEST_F(AllWidgets, ASymbolIsNoKeyButAKindIs)
 {
-    const WidgetRegistry registry(allWidgets());
     const auto symbol = [&](const char *kind) {
         return registry.definition(QString::fromLatin1(kind))->metadata.symbol;
     };
@@ -149,9 +156,8 @@ TEST(AllWidgets, ASymbolIsNoKeyButAKindIs)
     EXPECT_EQ(kinds.size(), 45);
 }
 
-TEST(AllWidgets, SizesThatAKindIsTooSmallOrTooPoorForAreNotOffered)
+TEST_F(AllWidgets, SizesThatAKindIsTooSmallOrTooPoorForAreNotOffered)
 {
-    const WidgetRegistry registry(allWidgets());
     const auto &calculator = registry.definition(QStringLiteral("calculator"))->metadata.allowedSizes;
     EXPECT_FALSE(calculator.contains(small));
     EXPECT_FALSE(calculator.contains(wide));
@@ -159,9 +165,8 @@ TEST(AllWidgets, SizesThatAKindIsTooSmallOrTooPoorForAreNotOffered)
         EXPECT_EQ(rowSpan(size), 1);
 }
 
-TEST(AllWidgets, TheDefaultLayoutUsesKnownKindsInAllowedSizes)
+TEST_F(AllWidgets, TheDefaultLayoutUsesKnownKindsInAllowedSizes)
 {
-    const WidgetRegistry registry(allWidgets());
     for (const WidgetInstance &instance : GridLayout::defaultLayout().instances) {
         const WidgetDefinition *definition = registry.definition(instance.kind);
         ASSERT_TRUE(definition) << qPrintable(instance.kind);

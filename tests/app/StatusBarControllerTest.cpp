@@ -22,7 +22,7 @@ protected:
     {
         start();
         pointer.where = farAway;
-        statusBar.emplace(*controller, *controller->loginItem(), statusItem, [this] { ++quits; });
+        statusBar.emplace(*controller, stores->loginItem, stores->updater, statusItem, [this] { ++quits; });
     }
 
     QStringList titles() const
@@ -62,7 +62,7 @@ TEST_F(StatusBar, MenuIsPlainEnglishInEveryLanguage)
     const QStringList english = titles();
     defaults.values.insert(QStringLiteral("brimlight.language"), QStringLiteral("de"));
     start();
-    statusBar.emplace(*controller, *controller->loginItem(), statusItem, [] {});
+    statusBar.emplace(*controller, stores->loginItem, stores->updater, statusItem, [] {});
     EXPECT_EQ(titles(), english);
 }
 
@@ -125,7 +125,7 @@ TEST_F(StatusBar, SettingsAreOpenedAndPinned)
 
 TEST_F(StatusBar, UpdatesAreCheckedForOnce)
 {
-    QSignalSpy checks(controller->updater(), &UpdateService::checkForUpdates);
+    QSignalSpy checks(&stores->updater, &UpdateService::checkForUpdates);
     statusItem.choose(updatesTitle);
     EXPECT_EQ(checks.size(), 1);
     EXPECT_FALSE(isExpanded());
@@ -149,7 +149,7 @@ TEST_F(StatusBar, TheCheckMarkIsRightAfterAChangeElsewhere)
         loginItem.enabled = enabled;
         statusItem.willOpen();
         EXPECT_EQ(isLoginChecked(), enabled);
-        EXPECT_EQ(controller->loginItem()->isEnabled(), enabled);
+        EXPECT_EQ(stores->loginItem.isEnabled(), enabled);
     }
 }
 
@@ -157,7 +157,7 @@ TEST_F(StatusBar, WhileTheMenuStaysClosedIsEnabledCanBeOutOfDate)
 {
     loginItem.enabled = true;
     scheduler.advance(10s);
-    EXPECT_FALSE(controller->loginItem()->isEnabled());
+    EXPECT_FALSE(stores->loginItem.isEnabled());
     EXPECT_FALSE(isLoginChecked());
 }
 

@@ -1,4 +1,5 @@
-#include "app/AllWidgets.h"
+#include "app/Stores.h"
+#include "fakes/FakePlatform.h"
 #include "notch/OnboardingSteps.h"
 #include "theme/SymbolTable.h"
 
@@ -94,8 +95,10 @@ Names carriers(const QMap<QString, QString> &qml)
 
 TEST(SymbolNames, OfEveryKindOfWidgetAreInTheTable)
 {
+    const FakePlatform machine;
+    const Stores stores(machine.platform, machine.log);
     QStringList names;
-    for (const WidgetDefinition &definition : allWidgets())
+    for (const WidgetDefinition &definition : stores.registry.all())
         names.append(definition.metadata.symbol);
     EXPECT_EQ(names.size(), 45);
     expectInTable(names, QStringLiteral("the definitions"));

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "fakes/ManualScheduler.h"
-#include "notch/NotchController.h"
 #include "platform/OverlaySurface.h"
 #include "platform/Platform.h"
 
@@ -257,17 +256,6 @@ public:
     Rect sensor;
     bool wantsKeyboard = false;
     SurfaceBackdrop currentBackdrop = SurfaceBackdrop::opaque;
-};
-
-class FakeHosting : public NotchHosting
-{
-public:
-    OverlaySurface &surface() override { return fakeSurface; }
-    void host(NotchController &controller) override { hosted = &controller; }
-    void unhost() override { hosted = nullptr; }
-
-    FakeSurface fakeSurface;
-    NotchController *hosted = nullptr;
 };
 
 } // namespace brimlight::test

@@ -1,6 +1,7 @@
 #include "grid/WidgetCatalog.h"
 
-#include "app/AllWidgets.h"
+#include "app/Stores.h"
+#include "fakes/FakePlatform.h"
 #include "grid/WidgetRegistry.h"
 
 #include <gtest/gtest.h>
@@ -10,8 +11,9 @@ namespace {
 
 GalleryEntry entry(const char *kind)
 {
-    const WidgetRegistry registry(allWidgets());
-    return galleryEntry(registry.definition(QLatin1String(kind))->metadata);
+    const FakePlatform machine;
+    const Stores stores(machine.platform, machine.log);
+    return galleryEntry(stores.registry.definition(QLatin1String(kind))->metadata);
 }
 
 } // namespace

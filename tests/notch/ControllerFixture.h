@@ -1,18 +1,10 @@
 #pragma once
 
-#include "fakes/FakeAudioServer.h"
-#include "fakes/FakeDisplayBrightness.h"
-#include "fakes/FakeHostStatistics.h"
-#include "fakes/FakePowerSources.h"
-#include "fakes/Fakes.h"
-#include "fakes/SensorFakes.h"
-#include "fakes/SwitchFakes.h"
-#include "grid/WidgetRegistry.h"
-#include "notch/NotchController.h"
+#include "app/NotchAssembly.h"
+#include "app/Stores.h"
+#include "fakes/FakePlatform.h"
 
 #include <gtest/gtest.h>
-
-#include <QTemporaryDir>
 
 #include <optional>
 
@@ -22,26 +14,34 @@ using namespace std::chrono_literals;
 
 /// A controller on fakes. Screen 1440 by 900 without a housing: the strip is (620,868 200x32); the open panel
 /// of a finished walk-through with one row in use is (452,542 536x358).
-class ControllerTest : public testing::Test
+class ControllerTest : public testing::Test, protected FakePlatform
 {
 protected:
     ControllerTest()
     {
-        folders.support = support.path();
         screens.setPlain(1440, 900);
         defaults.values.insert(QStringLiteral("brimlight.onboardingCompleted"), true);
     }
 
     void start()
     {
-        controller.emplace(platform, hosting, log, widgets);
+        build(fakeSurface);
         controller->show();
         scheduler.runPosted();
     }
 
-    NotchViewModel &model() { return *controller->viewModel(); }
-    NotchPanel &panel() { return *controller->panel(); }
-    FakeSurface &surface() { return hosting.fakeSurface; }
+    /// Everything but the views, on this surface.
+    void build(OverlaySurface &on)
+    {
+        notch.reset();
+        stores.emplace(platform, log);
+        notch.emplace(*stores, on);
+        controller = &notch->controller;
+    }
+
+    NotchViewModel &model() { return stores->viewModel; }
+    NotchPanel &panel() { return controller->panel(); }
+    FakeSurface &surface() { return fakeSurface; }
     bool isExpanded() { return model().isExpanded(); }
 
     static constexpr Point onStrip{720, 890};
@@ -82,9 +82,9 @@ protected:
     }
     void setPages(int count)
     {
-        GridLayout layout = controller->grid()->layout();
+        GridLayout layout = stores->grid.layout();
         layout.pageCount = count;
-        controller->grid()->setLayout(layout);
+        stores->grid.setLayout(layout);
         scheduler.runPosted();
     }
     /// The lines logged since the last call.
@@ -96,35 +96,10 @@ protected:
         return fresh;
     }
 
-    ManualScheduler scheduler;
-    MemoryDefaults defaults;
-    const QTemporaryDir support;
-    FakeFolders folders;
-    RecordingLog recorded;
-    FakeScreens screens;
-    FakePointer pointer;
-    FakeSignals unixSignals;
-    FakeAppearance appearance;
-    FakeHostStatistics statistics;
-    FakePowerSources power;
-    FakeMachine machine;
-    FakeSmc smc;
-    FakeThermal thermal;
-    FakeLoginItem loginItem;
-    FakeStatusItem statusItem;
-    FakeAudioServer audio;
-    FakeDisplayBrightness brightness;
-    FakeDoNotDisturb doNotDisturb;
-    FakeScriptHost scripts;
-    FakePowerAssertions powerAssertions;
-    FakeSounds sounds;
-    Platform platform{scheduler,  defaults,   folders,    recorded,     screens, pointer,         unixSignals,
-                      appearance, statistics, power,      machine,      smc,     thermal,         loginItem,
-                      statusItem, audio,      brightness, doNotDisturb, scripts, powerAssertions, sounds};
-    TraceLog log{recorded, {}};
-    FakeHosting hosting;
-    const WidgetRegistry widgets{{}};
-    std::optional<NotchController> controller;
+    FakeSurface fakeSurface;
+    std::optional<Stores> stores;
+    std::optional<NotchAssembly> notch;
+    NotchController *controller = nullptr;
 
 private:
     qsizetype m_seen = 0;

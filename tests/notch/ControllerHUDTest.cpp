@@ -89,7 +89,7 @@ TEST_F(ControllerHUD, AMutedDeviceShowsZero)
     audio.change({.volume = 0.4, .isMuted = true});
     scheduler.runPosted();
     EXPECT_EQ(shown(), HUDType::volume(0));
-    EXPECT_EQ(controller->hud()->symbol(), u"speaker.slash.fill");
+    EXPECT_EQ(notch->scene.hud()->symbol(), u"speaker.slash.fill");
 }
 
 TEST_F(ControllerHUD, BrightnessTakesThePlaceOfVolume)
@@ -132,7 +132,7 @@ TEST_F(ControllerHUD, AnOpenPanelShowsNothingAndQueuesNothing)
     start();
     controller->open();
     setVolume(0.9);
-    EXPECT_EQ(controller->volumeMonitor().volume(), 0.9F);
+    EXPECT_EQ(stores->volumeMonitor.volume(), 0.9F);
     EXPECT_FALSE(shown());
     controller->requestClose();
     scheduler.advance(5s);
@@ -143,15 +143,15 @@ TEST_F(ControllerHUD, OpeningHidesItAtOnceAndLetsItRunOut)
 {
     start();
     setVolume(0.5);
-    EXPECT_TRUE(controller->hud()->isShown());
+    EXPECT_TRUE(notch->scene.hud()->isShown());
     controller->open();
     EXPECT_TRUE(shown());
-    EXPECT_FALSE(controller->hud()->isShown());
+    EXPECT_FALSE(notch->scene.hud()->isShown());
     controller->requestClose();
-    EXPECT_TRUE(controller->hud()->isShown());
+    EXPECT_TRUE(notch->scene.hud()->isShown());
     scheduler.advance(1500ms);
     EXPECT_FALSE(shown());
-    EXPECT_FALSE(controller->hud()->isShown());
+    EXPECT_FALSE(notch->scene.hud()->isShown());
 }
 
 TEST_F(ControllerHUD, TheFaceKeepsTheLastValueWhileItFades)
@@ -159,9 +159,9 @@ TEST_F(ControllerHUD, TheFaceKeepsTheLastValueWhileItFades)
     start();
     setVolume(0.5);
     scheduler.advance(1500ms);
-    EXPECT_FALSE(controller->hud()->isShown());
-    EXPECT_EQ(controller->hud()->percent(), u"50%");
-    EXPECT_EQ(controller->hud()->symbol(), u"speaker.wave.2.fill");
+    EXPECT_FALSE(notch->scene.hud()->isShown());
+    EXPECT_EQ(notch->scene.hud()->percent(), u"50%");
+    EXPECT_EQ(notch->scene.hud()->symbol(), u"speaker.wave.2.fill");
 }
 
 TEST_F(ControllerHUD, TheLogicalFrameStaysWhileTheSurfaceGrows)

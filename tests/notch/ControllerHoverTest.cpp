@@ -37,7 +37,7 @@ TEST_F(Hover, RestingForTheDelayExpands)
 TEST_F(Hover, DelayIsReadAtEachEntry)
 {
     start();
-    controller->appSettings()->setHoverDelay(1.5);
+    stores->appSettings.setHoverDelay(1.5);
     enter();
     scheduler.advance(1499ms);
     EXPECT_FALSE(isExpanded());

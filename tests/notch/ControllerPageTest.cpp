@@ -64,7 +64,7 @@ TEST_F(Pages, SwipesTurnThePage)
 TEST_F(Pages, LosingTheLastPageMovesToTheNewLastAndResizes)
 {
     start();
-    GridLayout layout = controller->grid()->layout();
+    GridLayout layout = stores->grid.layout();
     layout.pageCount = 2;
     WidgetInstance low;
     low.kind = QStringLiteral("clock");
@@ -72,7 +72,7 @@ TEST_F(Pages, LosingTheLastPageMovesToTheNewLastAndResizes)
     low.col = 0;
     low.row = 4;
     layout.instances.append(low);
-    controller->grid()->setLayout(layout);
+    stores->grid.setLayout(layout);
     scheduler.runPosted();
     controller->open();
     controller->setPage(1);
@@ -81,7 +81,7 @@ TEST_F(Pages, LosingTheLastPageMovesToTheNewLastAndResizes)
     EXPECT_EQ(tall, 600);
     layout.pageCount = 1;
     layout.instances.removeLast();
-    controller->grid()->setLayout(layout);
+    stores->grid.setLayout(layout);
     scheduler.runPosted();
     EXPECT_EQ(model().currentPage(), 0);
     EXPECT_LT(panel().frame().height, tall);

@@ -12,14 +12,13 @@ TEST_F(State, StartsCollapsedUnpinnedOnTheFirstPage)
     EXPECT_FALSE(isExpanded());
     EXPECT_FALSE(model().isPinned());
     EXPECT_EQ(model().currentPage(), 0);
-    EXPECT_EQ(hosting.hosted, &*controller);
     EXPECT_TRUE(surface().isFront);
     EXPECT_TRUE(surface().outlines.empty()) << "nothing is drawn";
 }
 
 TEST_F(State, ConstructionPlacesNothingOnScreen)
 {
-    controller.emplace(platform, hosting, log, widgets);
+    build(fakeSurface);
     EXPECT_FALSE(surface().isFront);
     EXPECT_TRUE(lines().isEmpty());
 }
@@ -155,14 +154,14 @@ TEST_F(State, ATileThatIsRemovedWhileItShowsItsBackLeavesNoOptionsOpen)
     start();
     const WidgetInstance kept{.kind = QStringLiteral("gone"), .col = 0, .row = 0};
     const WidgetInstance removed{.kind = QStringLiteral("gone"), .col = 1, .row = 0};
-    controller->grid()->setLayout({.instances = {kept, removed}});
+    stores->grid.setLayout({.instances = {kept, removed}});
     model().setFlippedWidgetID(removed.id);
     scheduler.runPosted();
     EXPECT_TRUE(model().optionsOpen());
-    controller->grid()->remove(kept.id);
+    stores->grid.remove(kept.id);
     scheduler.runPosted();
     EXPECT_EQ(model().flippedWidgetID(), removed.id);
-    controller->grid()->remove(removed.id);
+    stores->grid.remove(removed.id);
     scheduler.runPosted();
     EXPECT_FALSE(model().flippedWidgetID());
     EXPECT_FALSE(model().optionsOpen());
@@ -269,16 +268,16 @@ TEST_F(State, TickRunsOnlyWhileExpandedAtTheChosenRate)
 {
     defaults.values.insert(QStringLiteral("brimlight.refreshRate"), QStringLiteral("saver"));
     start();
-    EXPECT_FALSE(controller->ticker()->isActive());
-    EXPECT_EQ(controller->ticker()->interval(), 5s);
+    EXPECT_FALSE(stores->ticker.isActive());
+    EXPECT_EQ(stores->ticker.interval(), 5s);
     controller->setExpanded(true);
-    EXPECT_TRUE(controller->ticker()->isActive());
-    controller->appSettings()->setRefreshRate(RefreshRate::live);
-    EXPECT_EQ(controller->ticker()->interval(), 5s) << "subscribers work one turn later";
+    EXPECT_TRUE(stores->ticker.isActive());
+    stores->appSettings.setRefreshRate(RefreshRate::live);
+    EXPECT_EQ(stores->ticker.interval(), 5s) << "subscribers work one turn later";
     scheduler.runPosted();
-    EXPECT_EQ(controller->ticker()->interval(), 500ms);
+    EXPECT_EQ(stores->ticker.interval(), 500ms);
     controller->setExpanded(false);
-    EXPECT_FALSE(controller->ticker()->isActive());
+    EXPECT_FALSE(stores->ticker.isActive());
 }
 
 TEST_F(State, WithoutAScreenExpandingOnlyFlipsTheFlag)
@@ -290,7 +289,7 @@ TEST_F(State, WithoutAScreenExpandingOnlyFlipsTheFlag)
     controller->setExpanded(true);
     EXPECT_TRUE(isExpanded());
     EXPECT_EQ(panel().frame(), before);
-    EXPECT_FALSE(controller->ticker()->isActive());
+    EXPECT_FALSE(stores->ticker.isActive());
     EXPECT_TRUE(pointer.local.empty());
     EXPECT_TRUE(lines().isEmpty());
     controller->setExpanded(false);
@@ -300,9 +299,10 @@ TEST_F(State, WithoutAScreenExpandingOnlyFlipsTheFlag)
 TEST_F(State, GoneControllerIsNotReachedByPostedWork)
 {
     start();
-    controller->appSettings()->setRefreshRate(RefreshRate::saver);
-    controller->viewModel()->setShowSettings(true);
-    controller.reset();
+    stores->appSettings.setRefreshRate(RefreshRate::saver);
+    stores->viewModel.setShowSettings(true);
+    notch.reset();
+    stores.reset();
     scheduler.runPosted();
     SUCCEED() << "no crash";
 }
@@ -310,29 +310,29 @@ TEST_F(State, GoneControllerIsNotReachedByPostedWork)
 TEST_F(State, TheLoadIsSampledWhileThePanelIsOpen)
 {
     start();
-    EXPECT_FALSE(controller->sensors().history.isActive());
+    EXPECT_FALSE(stores->systemHistory.isActive());
     controller->setExpanded(true);
-    EXPECT_TRUE(controller->sensors().history.isActive());
+    EXPECT_TRUE(stores->systemHistory.isActive());
     controller->setExpanded(false);
-    EXPECT_FALSE(controller->sensors().history.isActive());
+    EXPECT_FALSE(stores->systemHistory.isActive());
 }
 
 TEST_F(State, AUsageGraphOnAnyPageIsSampledWhileThePanelIsClosedToo)
 {
     start();
-    const GridLayout without = controller->grid()->layout();
+    const GridLayout without = stores->grid.layout();
     GridLayout with = without;
     with.pageCount = 2;
     with.instances.append({.kind = QStringLiteral("usagegraph"), .size = WidgetSize::large, .page = 1});
-    controller->grid()->setLayout(with);
+    stores->grid.setLayout(with);
     scheduler.runPosted();
-    EXPECT_TRUE(controller->sensors().history.isActive());
+    EXPECT_TRUE(stores->systemHistory.isActive());
     controller->setExpanded(true);
     controller->setExpanded(false);
-    EXPECT_TRUE(controller->sensors().history.isActive());
-    controller->grid()->setLayout(without);
+    EXPECT_TRUE(stores->systemHistory.isActive());
+    stores->grid.setLayout(without);
     scheduler.runPosted();
-    EXPECT_FALSE(controller->sensors().history.isActive());
+    EXPECT_FALSE(stores->systemHistory.isActive());
 }
 
 } // namespace brimlight::test

@@ -135,7 +135,7 @@ TEST_F(HUDView, ALevelOfZeroShowsABarOfFourPoints)
     settle();
     ASSERT_TRUE(view());
     EXPECT_TRUE(scene.texts().contains(QStringLiteral("0%")));
-    const QColor accent = controller->theme()->current().accentColor();
+    const QColor accent = stores->theme.current().accentColor();
     QList<double> widths;
     for (const QQuickItem *item : scene.items()) {
         if (item->inherits("QQuickRectangle") && item->property("color").value<QColor>() == accent)

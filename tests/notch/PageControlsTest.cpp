@@ -9,12 +9,12 @@ class Capsules : public ControllerTest
 protected:
     Capsules() { start(); }
 
-    PageControls &capsules() { return *controller->pageControls(); }
+    PageControls &capsules() { return *notch->scene.pageControls(); }
     void setPages(qint64 count)
     {
-        GridLayout layout = controller->grid()->layout();
+        GridLayout layout = stores->grid.layout();
         layout.pageCount = count;
-        controller->grid()->setLayout(layout);
+        stores->grid.setLayout(layout);
         scheduler.runPosted();
     }
 };
@@ -53,7 +53,7 @@ TEST_F(Capsules, TheWindowHoldsTheCurrentPage)
 TEST_F(Capsules, AnAddedPageIsShown)
 {
     capsules().addPage();
-    EXPECT_EQ(controller->grid()->layout().pageCount, 2);
+    EXPECT_EQ(stores->grid.layout().pageCount, 2);
     EXPECT_EQ(model().currentPage(), 1);
     EXPECT_EQ(capsules().shown(), 2);
 }

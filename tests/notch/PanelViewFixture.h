@@ -31,11 +31,12 @@ private:
 class PanelView : public ControllerTest
 {
 protected:
-    ~PanelView() override { controller.reset(); }
+    ~PanelView() override { window.unhost(); }
 
     void start()
     {
-        controller.emplace(platform, window, log, widgets);
+        build(window.surface());
+        window.host(notch->scene, *controller);
         controller->show();
         settle();
     }

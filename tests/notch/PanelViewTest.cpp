@@ -265,10 +265,10 @@ TEST_F(SettingsPanel, IsReleasedWithTheClosedPanelAndOpensOnTheFirstTabAgain)
 TEST_F(SettingsPanel, OpeningAsksTheSystemForTheLoginItemAgain)
 {
     start();
-    EXPECT_FALSE(controller->loginItem()->isEnabled());
+    EXPECT_FALSE(stores->loginItem.isEnabled());
     loginItem.enabled = true;
     controller->openSettings();
-    EXPECT_TRUE(controller->loginItem()->isEnabled());
+    EXPECT_TRUE(stores->loginItem.isEnabled());
 }
 
 class Content : public PanelView
@@ -308,7 +308,8 @@ TEST_F(Content, GoesBeforeWhatItIsBoundTo)
     open();
     ASSERT_TRUE(content());
     // A view that is left behind complains about what is missing, and complaints are failures.
-    controller.reset();
+    window.unhost();
+    notch.reset();
     EXPECT_FALSE(content());
 }
 
@@ -423,7 +424,7 @@ TEST_F(Content, TheGalleryOpensByTheSpringOfThePanelAndClosesSooner)
 TEST_F(Content, AFullPageIsScrolledByTheWheelUnlessOptionsAreOpen)
 {
     start();
-    controller->grid()->setLayout({.instances = {{.kind = QStringLiteral("gone"), .col = 0, .row = 7}}});
+    stores->grid.setLayout({.instances = {{.kind = QStringLiteral("gone"), .col = 0, .row = 7}}});
     open();
     const QQuickItem *page = scene.ofType("WidgetGridView").first()->parentItem()->parentItem();
     const auto turnWheel = [this](int degrees) {
@@ -449,7 +450,7 @@ TEST_F(Content, ATileThatTurnsOverAtTheFootOfAFullPageIsScrolledTo)
 {
     start();
     WidgetInstance last{.kind = QStringLiteral("gone"), .size = WidgetSize::wide, .col = 0, .row = 7};
-    controller->grid()->setLayout({.instances = {last}});
+    stores->grid.setLayout({.instances = {last}});
     open();
     QQuickItem *page = scene.ofType("WidgetGridView").first()->parentItem()->parentItem();
     const auto hidden = [&] {
@@ -489,7 +490,7 @@ TEST_F(Header, AButtonLightsUpUnderThePointer)
     EXPECT_GT(shadow->opacity(), 0);
     EXPECT_LT(shadow->opacity(), 0.25);
     settle();
-    EXPECT_EQ(symbol->color(), controller->theme()->current().textPrimaryColor());
+    EXPECT_EQ(symbol->color(), stores->theme.current().textPrimaryColor());
     EXPECT_NE(symbol->color(), between);
     EXPECT_EQ(shadow->opacity(), 0.25);
     EXPECT_DOUBLE_EQ(button->scale(), 1.08);

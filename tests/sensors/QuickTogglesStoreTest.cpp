@@ -9,13 +9,12 @@ namespace {
 class QuickTogglesStoreTest : public WidgetTest
 {
 protected:
-    QuickTogglesStoreTest() { store.emplace().setPorts(&ports); }
+    QuickTogglesStoreTest() { store.emplace(context, scripts, assertions, sounds, appearance); }
 
     FakeScriptHost scripts;
     FakePowerAssertions assertions;
     FakeSounds sounds;
     FakeAppearance appearance;
-    SwitchPorts ports{scripts, assertions, sounds, appearance};
     std::optional<QuickTogglesStore> store;
 };
 
@@ -32,7 +31,6 @@ TEST_F(QuickTogglesStoreTest, EverythingIsOffAtTheStart)
 TEST_F(QuickTogglesStoreTest, ReadsTheStatesEachTimeItComesOnScreen)
 {
     appearance.dark = true;
-    store->setContext(&context);
     EXPECT_FALSE(store->darkModeActive());
     context.setLive(true);
     EXPECT_TRUE(store->darkModeActive());
@@ -43,19 +41,6 @@ TEST_F(QuickTogglesStoreTest, ReadsTheStatesEachTimeItComesOnScreen)
     context.setLive(true);
     EXPECT_EQ(scripts.started.size(), 2);
     EXPECT_FALSE(store->darkModeActive());
-}
-
-TEST_F(QuickTogglesStoreTest, OneThatIsOnScreenFromTheStartReadsOnce)
-{
-    context.setLive(true);
-    QuickTogglesStore contextFirst;
-    contextFirst.setContext(&context);
-    contextFirst.setPorts(&ports);
-    EXPECT_EQ(scripts.started.size(), 1);
-    QuickTogglesStore portsFirst;
-    portsFirst.setPorts(&ports);
-    portsFirst.setContext(&context);
-    EXPECT_EQ(scripts.started.size(), 2);
 }
 
 TEST_F(QuickTogglesStoreTest, OnlyTheReplyTrueMeansMuted)
@@ -117,7 +102,7 @@ TEST_F(QuickTogglesStoreTest, CaffeineEndsWithItsWidget)
     store->toggleCaffeine();
     store.reset();
     EXPECT_EQ(assertions.released, std::vector<uint32_t>{7});
-    store.emplace().setPorts(&ports);
+    store.emplace(context, scripts, assertions, sounds, appearance);
     store.reset();
     EXPECT_EQ(assertions.released.size(), 1U) << "what is off holds nothing";
 }

@@ -1,7 +1,7 @@
 #include "fakes/HandDriver.h"
 #include "fakes/Scene.h"
 #include "fakes/SwitchFakes.h"
-#include "sensors/SwitchPorts.h"
+#include "sensors/QuickTogglesStore.h"
 #include "theme/Motion.h"
 #include "widgets/WidgetFixture.h"
 
@@ -24,7 +24,7 @@ protected:
         motion.installOn(*view.engine());
         view.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
         view.setInitialProperties({{QStringLiteral("context"), QVariant::fromValue(&context)},
-                                   {QStringLiteral("switches"), QVariant::fromValue(&switches)}});
+                                   {QStringLiteral("face"), QVariant::fromValue(&store)}});
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Sensors/QuickTogglesView.qml")));
         view.resize(size == WidgetSize::small ? 54 : 140, size == WidgetSize::large ? 140 : 54);
@@ -58,7 +58,7 @@ protected:
     FakePowerAssertions assertions;
     FakeSounds sounds;
     FakeAppearance appearance;
-    SwitchPorts switches{scripts, assertions, sounds, appearance};
+    QuickTogglesStore store{context, scripts, assertions, sounds, appearance};
     Motion motion{&appearance};
     QQuickView view;
     Scene scene{view};

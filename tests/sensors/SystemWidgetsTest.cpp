@@ -4,11 +4,11 @@
 #include "sensors/BatteryHealthFace.h"
 #include "sensors/DiskFace.h"
 #include "sensors/NetworkFace.h"
-#include "sensors/SignalColors.h"
 #include "sensors/SystemFace.h"
 #include "sensors/SystemInfoFace.h"
 #include "sensors/TemperatureFace.h"
 #include "sensors/UsageGraphFace.h"
+#include "theme/SignalColors.h"
 #include "widgets/WidgetFixture.h"
 
 namespace brimlight::test {
@@ -39,19 +39,12 @@ protected:
         statistics.seconds += 1;
         scheduler.advance(1s);
     }
-    template<typename Face>
-    void show(Face &face)
-    {
-        face.setContext(&context);
-        face.setMachine(&ports);
-    }
 
     FakeHostStatistics statistics;
     FakePowerSources power;
     FakeMachine machine;
     FakeSmc smc;
     FakeThermal thermal;
-    MachinePorts ports{statistics, power, machine};
 };
 
 } // namespace
@@ -95,8 +88,7 @@ TEST(BatteryDetail, TellsTheTimeThatIsLeftOrTheState)
 
 TEST_F(SystemWidgets, BatteryShowsADashForAnUnknownCharge)
 {
-    BatteryFace face;
-    show(face);
+    BatteryFace face(context, power);
     EXPECT_EQ(face.number(), QStringLiteral("—"));
     EXPECT_EQ(face.fraction(), 0);
     EXPECT_EQ(face.status(), QStringLiteral("Plugged in"));
@@ -105,8 +97,7 @@ TEST_F(SystemWidgets, BatteryShowsADashForAnUnknownCharge)
 
 TEST_F(SystemWidgets, BatteryIsReadOnEachTickWhileItIsSeen)
 {
-    BatteryFace face;
-    show(face);
+    BatteryFace face(context, power);
     power.source = PowerSourceDescription{
         .currentCapacity = 30, .maxCapacity = 100, .powerSourceState = QStringLiteral("Battery Power")};
     EXPECT_EQ(face.percent(), QStringLiteral("—"));
@@ -122,8 +113,7 @@ TEST_F(SystemWidgets, BatteryIsReadOnEachTickWhileItIsSeen)
 
 TEST_F(SystemWidgets, BatteryColorModeIsDynamicButForTheOneOtherValue)
 {
-    BatteryFace face;
-    show(face);
+    BatteryFace face(context, power);
     WidgetInstance instance{.kind = QStringLiteral("battery"), .size = WidgetSize::small};
     for (const char *value : {"", "Theme", "dynamic"}) {
         instance.settings = WidgetSettings{{QStringLiteral("colorMode"), QString::fromLatin1(value)}};
@@ -146,8 +136,9 @@ TEST(BatteryHealth, TintChangesAtEightyAndSixty)
 
 TEST_F(SystemWidgets, BatteryHealthIsReadWhenItAppears)
 {
-    BatteryHealthFace face;
-    show(face);
+    context.setLive(false);
+    BatteryHealthFace face(context, power);
+    context.setLive(true);
     EXPECT_FALSE(face.hasBattery());
     power.battery = SmartBattery{.cycleCount = 312, .designCapacity = 5000, .rawMaxCapacity = 4000};
     tick();
@@ -183,8 +174,7 @@ TEST(Disk, FromAHundredGigabytesUpThereIsNoDecimal)
 TEST_F(SystemWidgets, DiskShowsTheRootVolume)
 {
     statistics.capacity = VolumeCapacity{.total = 1'000'000'000'000, .available = 250'000'000'000};
-    DiskFace face;
-    show(face);
+    DiskFace face(context, statistics);
     EXPECT_EQ(face.percent(), QStringLiteral("75%"));
     EXPECT_EQ(face.freeText(), QStringLiteral("250 GB free"));
     EXPECT_EQ(statistics.volumesAsked, QStringList{QStringLiteral("/")});
@@ -203,8 +193,7 @@ TEST(NetworkRate, UnitsChangeAtTheUnroundedLimits)
 
 TEST_F(SystemWidgets, NetworkKeepsTwentyFourValues)
 {
-    NetworkFace face;
-    show(face);
+    NetworkFace face(context, statistics);
     EXPECT_TRUE(face.bars().isEmpty());
     statistics.links = {{.name = QStringLiteral("eth0")}};
     tick();
@@ -224,8 +213,7 @@ TEST_F(SystemWidgets, NetworkKeepsTwentyFourValues)
 TEST_F(SystemWidgets, NetworkStartsAtZeroAndSilenceStaysFlat)
 {
     statistics.links = {{.name = QStringLiteral("eth0"), .received = 5000, .sent = 900}};
-    NetworkFace face;
-    show(face);
+    NetworkFace face(context, statistics);
     tick();
     EXPECT_EQ(face.down(), QStringLiteral("0 B/s"));
     EXPECT_EQ(face.bars(), QList<double>{0});
@@ -255,8 +243,7 @@ TEST_F(SystemWidgets, SystemStartsWithoutALoadAndMeasuresItsOwnInterval)
     statistics.physical = 8'000'000'000;
     statistics.pages =
         MemoryPages{.active = 500'000, .wired = 250'000, .compressor = 250'000, .pageSize = 4000};
-    SystemFace face;
-    show(face);
+    SystemFace face(context, statistics);
     tick();
     EXPECT_EQ(face.cpuText(), QStringLiteral("0%"));
     EXPECT_EQ(face.ramText(), QStringLiteral("50%"));
@@ -280,8 +267,7 @@ TEST(Uptime, IsToldInItsTwoLargestUnits)
 TEST_F(SystemWidgets, SystemInfoHasFourRows)
 {
     statistics.seconds = 7260;
-    SystemInfoFace face;
-    show(face);
+    SystemInfoFace face(context, statistics, machine);
     EXPECT_EQ(face.labels().size(), 4);
     EXPECT_EQ(face.values(), (QStringList{QStringLiteral("2h 1m"), QStringLiteral("Linux 6.1.0"),
                                           QStringLiteral("host"), QStringLiteral("Chip One")}));
@@ -292,9 +278,7 @@ TEST_F(SystemWidgets, UsageGraphFollowsTheSharedHistory)
     statistics.physical = 4000;
     statistics.pages = MemoryPages{.active = 1, .pageSize = 1000};
     SystemHistoryStore history(statistics, scheduler);
-    UsageGraphFace face;
-    face.setContext(&context);
-    face.setHistory(&history);
+    UsageGraphFace face(context, history);
     int changes = 0;
     QObject::connect(&face, &UsageGraphFace::historyChanged, &face, [&] { ++changes; });
     history.setActive(true);
@@ -330,9 +314,7 @@ TEST_F(SystemWidgets, ABatteryValueAloneShowsTheFallback)
     power.setTemperature(3010);
     statistics.thermal = ThermalState::serious;
     TemperatureService service({smc, thermal, machine, power, defaults, recorded, scheduler});
-    TemperatureFace face;
-    show(face);
-    face.setTemperature(&service);
+    TemperatureFace face(context, service, statistics);
     tick();
     ASSERT_TRUE(service.latest());
     EXPECT_FALSE(face.hasCpu());
@@ -344,9 +326,7 @@ TEST_F(SystemWidgets, TemperatureIsReadOnEachTickInTheUsersUnit)
 {
     thermal.services = {{QStringLiteral("cpu"), 60.0}};
     TemperatureService service({smc, thermal, machine, power, defaults, recorded, scheduler});
-    TemperatureFace face;
-    show(face);
-    face.setTemperature(&service);
+    TemperatureFace face(context, service, statistics);
     tick();
     EXPECT_EQ(face.cpuText(), QStringLiteral("60°"));
     EXPECT_EQ(face.unit(), QStringLiteral("°C"));

@@ -1,3 +1,4 @@
+#include "core/AppSettings.h"
 #include "core/LoginItemService.h"
 #include "core/UiTranslator.h"
 #include "fakes/Fakes.h"

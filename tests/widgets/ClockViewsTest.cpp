@@ -1,6 +1,8 @@
 #include "fakes/Scene.h"
 #include "theme/Motion.h"
+#include "widgets/ClockFace.h"
 #include "widgets/WidgetFixture.h"
+#include "widgets/WorldClockFace.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -14,12 +16,17 @@ namespace {
 class ClockViews : public WidgetTest
 {
 protected:
+    template<typename Face>
     void show(const char *name, WidgetSize size)
     {
         context.setSize(size);
+        // Views go before what they show.
+        view.setSource({});
+        face = std::make_unique<Face>(context);
         motion.installOn(*view.engine());
         view.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-        view.setInitialProperties({{QStringLiteral("context"), QVariant::fromValue(&context)}});
+        view.setInitialProperties({{QStringLiteral("context"), QVariant::fromValue(&context)},
+                                   {QStringLiteral("face"), QVariant::fromValue(face.get())}});
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Widgets/%1.qml").arg(QLatin1String(name))));
         view.resize(140, 140);
@@ -41,6 +48,7 @@ protected:
         return texts;
     }
 
+    std::unique_ptr<WidgetLogic> face;
     FakeAppearance appearance;
     Motion motion{&appearance};
     QQuickView view;
@@ -51,20 +59,23 @@ protected:
 
 TEST_F(ClockViews, NoDigitRollsUnderReducedMotion)
 {
-    for (const char *name : {"ClockView", "WorldClockView"}) {
-        show(name, WidgetSize::large);
+    const auto expectNone = [this](const char *name) {
         ASSERT_FALSE(numbers().isEmpty()) << name;
         for (const bool reduced : {true, false}) {
             appearance.set(reduced, false);
             for (const QQuickItem *number : numbers())
                 EXPECT_EQ(number->property("reduceMotion"), QVariant(reduced)) << name;
         }
-    }
+    };
+    show<ClockFace>("ClockView", WidgetSize::large);
+    expectNone("ClockView");
+    show<WorldClockFace>("WorldClockView", WidgetSize::large);
+    expectNone("WorldClockView");
 }
 
 TEST_F(ClockViews, A24HourClockDrawsNoMarker)
 {
-    show("ClockView", WidgetSize::wide);
+    show<ClockFace>("ClockView", WidgetSize::wide);
     const auto drawsMarker = [this] { return scene.texts().contains(QStringLiteral("AM")); };
     EXPECT_FALSE(drawsMarker());
     settings.setClock24h(false);
@@ -73,7 +84,7 @@ TEST_F(ClockViews, A24HourClockDrawsNoMarker)
 
 TEST_F(ClockViews, ASmallClockDrawsNoSeconds)
 {
-    show("ClockView", WidgetSize::small);
+    show<ClockFace>("ClockView", WidgetSize::small);
     EXPECT_EQ(numberTexts(), QStringList(QStringLiteral("09:26")));
     context.setSize(WidgetSize::wide);
     EXPECT_EQ(numberTexts(), (QStringList{QStringLiteral("09:26"), QStringLiteral("53")}));
@@ -81,7 +92,7 @@ TEST_F(ClockViews, ASmallClockDrawsNoSeconds)
 
 TEST_F(ClockViews, AWorldClockThatShrinksLeavesItsLastPlacesOut)
 {
-    show("WorldClockView", WidgetSize::large);
+    show<WorldClockFace>("WorldClockView", WidgetSize::large);
     EXPECT_EQ(numbers().size(), 4);
     context.setSize(WidgetSize::wide);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -11,8 +11,6 @@ namespace brimlight::test {
 class Clock : public WidgetTest
 {
 protected:
-    Clock() { face.setContext(&context); }
-
     void set(const QString &key, const QString &value)
     {
         WidgetInstance instance{.kind = QStringLiteral("clock"), .size = WidgetSize::wide};
@@ -20,7 +18,7 @@ protected:
         context.setInstance(instance);
     }
 
-    ClockFace face;
+    ClockFace face{context};
 };
 
 TEST_F(Clock, OutsideOfATileTheOptionsHaveTheirDefaults)
@@ -128,8 +126,7 @@ class WorldClocks : public WidgetTest
 
 TEST_F(WorldClocks, ShowTheSunByDayAndTheMoonByNight)
 {
-    WorldClockFace face;
-    face.setContext(&context);
+    WorldClockFace face(context);
     context.setSize(WidgetSize::large);
     const QVariantList places = face.places();
     ASSERT_EQ(places.size(), 4);
@@ -201,10 +198,9 @@ class Calendars : public WidgetTest
 
 TEST_F(Calendars, AWideTileShowsTheWeekAndIsRebuiltOncePerDay)
 {
-    CalendarFace face;
+    CalendarFace face(context);
     int rebuilt = 0;
     QObject::connect(&face, &CalendarFace::dayChanged, [&] { ++rebuilt; });
-    face.setContext(&context);
     context.setSize(WidgetSize::wide);
     context.setLive(true);
     EXPECT_TRUE(face.showsWeek());

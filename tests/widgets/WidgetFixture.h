@@ -1,10 +1,16 @@
 #pragma once
 
+#include "core/AppSettings.h"
+#include "core/TickCoordinator.h"
+#include "core/TraceLog.h"
 #include "fakes/Fakes.h"
 #include "grid/GridStore.h"
+#include "grid/WidgetCatalog.h"
 #include "grid/WidgetContext.h"
 #include "grid/WidgetEnvironment.h"
+#include "grid/WidgetLogic.h"
 #include "grid/WidgetRegistry.h"
+#include "theme/ThemeStore.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +37,7 @@ protected:
     ThemeStore theme{dir.filePath(QStringLiteral("theme.json")), defaults, recorded};
     AppSettings settings{defaults};
     TickCoordinator ticker{scheduler, log};
-    WidgetEnvironment environment{registry, grid, theme, settings, ticker, {}};
+    WidgetEnvironment environment{registry, grid, theme, settings, ticker};
     WidgetContext context{environment};
 };
 

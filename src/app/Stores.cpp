@@ -1,0 +1,45 @@
+#include "app/Stores.h"
+
+#include "app/AllWidgets.h"
+
+namespace brimlight {
+
+Stores::Stores(const Platform &ports, const TraceLog &trace)
+    : platform(ports)
+    , log(trace)
+    , registry(allWidgets(*this))
+    , motion(&ports.appearance)
+    , viewModel(ports.defaults)
+    , theme(AppPaths(ports.folders).appSupportFile(QStringLiteral("theme.json")), ports.defaults, ports.log)
+    , grid(AppPaths(ports.folders).appSupportFile(QStringLiteral("grid.json")), registry)
+    , ticker(ports.scheduler, trace)
+    , power(ports.power, ports.scheduler)
+    , systemHistory(ports.statistics, ports.scheduler)
+    , temperature(
+          {ports.smc, ports.thermal, ports.machine, power, ports.defaults, ports.log, ports.scheduler})
+    , loginItem(ports.loginItem, ports.log)
+    , appSettings(ports.defaults)
+    , updater(ports.defaults)
+    , volumeMonitor(ports.audio)
+    , brightnessMonitor(ports.brightness, ports.scheduler)
+    , statusMonitor(ports.audio, ports.doNotDisturb, ports.scheduler)
+    , hud(viewModel, volumeMonitor, brightnessMonitor, ports.scheduler)
+    , historySampling(grid, systemHistory, ports.scheduler)
+    , widgets{registry, grid, theme, appSettings, ticker}
+{
+    volumeMonitor.setupListener();
+    subscribe();
+}
+
+void Stores::subscribe()
+{
+    QObject::connect(&viewModel, &NotchViewModel::isExpandedChanged, &historySampling,
+                     [this] { historySampling.setPanelOpen(viewModel.isExpanded()); });
+    // The user may have changed it elsewhere.
+    QObject::connect(&viewModel, &NotchViewModel::showSettingsChanged, &loginItem, [this] {
+        if (viewModel.showSettings())
+            loginItem.refresh();
+    });
+}
+
+} // namespace brimlight
