@@ -59,7 +59,7 @@ public:
 
     explicit Page(Layout layout)
     {
-        m_machine.stores.grid.setLayout(layout(m_machine.registry));
+        m_machine.stores.grid.setLayout(layout(m_machine.stores.registry));
         m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
         m_motion.installOn(m_engine);
         QQmlComponent component(&m_engine,
