@@ -10,14 +10,14 @@ namespace brimlight {
 namespace {
 
 /// Both excluded. The second source is trusted less far up than the first.
-constexpr double lowestCelsius = 0.0;
-constexpr double highestCelsius = 120.0;
+constexpr double lowestHidCelsius = 0.0;
+constexpr double highestHidCelsius = 120.0;
 
 constexpr std::array otherParts{"battery", "nand", "ambient", "case", "skin",
                                 "tcal",    "tdev", "charger", "wifi", "display"};
 constexpr std::array cpuParts{"cpu", "pacc", "eacc", "tdie"};
 
-const QString category = QStringLiteral("IOHIDBridge");
+const QString hidCategory = QStringLiteral("IOHIDBridge");
 
 template<typename Words>
 bool containsAny(const QString &text, const Words &words)
@@ -33,11 +33,11 @@ std::unique_ptr<IOHIDBridge> IOHIDBridge::open(ThermalServices &services, PowerS
 {
     const auto count = services.match();
     if (!count) {
-        log.write(LogLevel::error, category,
+        log.write(LogLevel::error, hidCategory,
                   QStringLiteral("Thermal services cannot be listed — IOHID bridge disabled"));
         return nullptr;
     }
-    log.write(LogLevel::info, category,
+    log.write(LogLevel::info, hidCategory,
               QStringLiteral("IOHID temperature bridge ready (%1 services)").arg(*count));
     return std::unique_ptr<IOHIDBridge>(new IOHIDBridge(services, power, scheduler, *count));
 }
@@ -61,7 +61,7 @@ TemperatureReading IOHIDBridge::readTemperatureReading()
     std::vector<double> values;
     for (int service = 0; service < m_count; ++service) {
         const auto celsius = m_services.celsius(service);
-        if (celsius && *celsius > lowestCelsius && *celsius < highestCelsius &&
+        if (celsius && *celsius > lowestHidCelsius && *celsius < highestHidCelsius &&
             isCpuName(m_services.name(service)))
             values.push_back(*celsius);
     }

@@ -14,6 +14,8 @@ struct GaugeMotion
     /// Between two steps of what moves at every tick, all day, and only by a little: half the rate of the
     /// screen is smooth enough for it.
     static constexpr std::chrono::milliseconds calm{33};
+    /// What moves by less, in points, need not be seen moving.
+    static constexpr double unseenMove = 1.5;
 
     std::chrono::milliseconds duration;
     QEasingCurve easing;

@@ -1,5 +1,8 @@
 #include "theme/RingGauge.h"
 
+#include "theme/Faded.h"
+#include "theme/GaugeMotion.h"
+
 #include <QConicalGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -19,14 +22,7 @@ constexpr double glowRadius = 2.5;
 /// Beyond this the glow is below what eight bits can tell.
 constexpr double glowReach = 2.4 * glowRadius;
 /// In points along the ring.
-constexpr double unseenMove = 1.5;
 constexpr double unseenRest = 0.25;
-
-QColor faded(QColor color, double opacity)
-{
-    color.setAlphaF(static_cast<float>(color.alphaF() * opacity));
-    return color;
-}
 
 /// A line of that width, blurred, at a distance from its middle: 1 where it is fully seen.
 double glowAt(double distance, double lineWidth)
@@ -86,7 +82,7 @@ void RingGauge::setValue(double value)
         return;
     m_value = value;
     const double goal = ringProgress(value);
-    if (animates() && pointsTo(goal) >= unseenMove)
+    if (animates() && pointsTo(goal) >= GaugeMotion::unseenMove)
         m_progress.moveTo(goal, m_motion);
     else
         m_progress.jumpTo(goal);
@@ -156,7 +152,7 @@ void RingGauge::settle()
 /// Many rings change a little at every tick, and the tail of a spring has more frames than the eye can see.
 void RingGauge::follow()
 {
-    if (pointsTo(m_drawn) >= (m_progress.isRunning() ? unseenMove : unseenRest))
+    if (pointsTo(m_drawn) >= (m_progress.isRunning() ? GaugeMotion::unseenMove : unseenRest))
         redraw();
 }
 

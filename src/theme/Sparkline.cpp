@@ -1,5 +1,8 @@
 #include "theme/Sparkline.h"
 
+#include "theme/Faded.h"
+#include "theme/GaugeMotion.h"
+
 #include <QLineF>
 #include <QLinearGradient>
 #include <QPainter>
@@ -13,14 +16,6 @@ namespace {
 constexpr double lineWidth = 1.5;
 constexpr double topOpacity = 0.35;
 constexpr double bottomOpacity = 0.02;
-/// In points.
-constexpr double unseenMove = 1.5;
-
-QColor faded(QColor color, double opacity)
-{
-    color.setAlphaF(static_cast<float>(color.alphaF() * opacity));
-    return color;
-}
 
 } // namespace
 
@@ -86,7 +81,8 @@ void Sparkline::setValues(const QList<double> &values)
 {
     if (values == m_values)
         return;
-    if (animates() && m_values.size() > 1 && values.size() > 1 && longestWay(shown(), values) >= unseenMove) {
+    if (animates() && m_values.size() > 1 && values.size() > 1 &&
+        longestWay(shown(), values) >= GaugeMotion::unseenMove) {
         m_before = shown();
         m_way = longestWay(m_before, values);
         m_values = values;
@@ -149,7 +145,7 @@ void Sparkline::settle()
 
 void Sparkline::follow()
 {
-    if (!m_change.isRunning() || std::abs(m_change.value() - m_drawn) * m_way >= unseenMove)
+    if (!m_change.isRunning() || std::abs(m_change.value() - m_drawn) * m_way >= GaugeMotion::unseenMove)
         redraw();
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -72,6 +73,22 @@ protected:
         return *outcome;
     }
 
+    /// Another start has connected, and is not accepted yet.
+    bool someoneWaits() const
+    {
+        QFile sockets(QStringLiteral("/proc/net/unix"));
+        EXPECT_TRUE(sockets.open(QIODevice::ReadOnly));
+        // One that listens, and one for each that waits.
+        return sockets.readAll().count(folder.path().toUtf8()) > 1;
+    }
+    void waitForSomeone() const
+    {
+        const QDeadlineTimer patience(10s);
+        while (!someoneWaits() && !patience.hasExpired())
+            std::this_thread::yield();
+        ASSERT_TRUE(someoneWaits());
+    }
+
     const QTemporaryDir folder;
     int opened = 0;
 };
@@ -95,7 +112,7 @@ TEST_F(RunningInstanceTest, OneThatCameBeforeTheAnswerIsAnsweredToo)
     ASSERT_EQ(first->claim(impatient), Outcome::first);
     std::optional<Outcome> outcome;
     std::thread second([&] { outcome = instance()->claim(patient); });
-    std::this_thread::sleep_for(30ms);
+    waitForSomeone();
     first->answer([this] { ++opened; });
     while (opened == 0)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
@@ -124,7 +141,7 @@ TEST_F(RunningInstanceTest, OneThatWaitsTakesOverWhenTheFirstEndsUnanswered)
     ASSERT_EQ(first->claim(impatient), Outcome::first);
     std::optional<Outcome> outcome;
     std::thread second([&] { outcome = instance()->claim(patient); });
-    std::this_thread::sleep_for(30ms);
+    waitForSomeone();
     first.reset();
     second.join();
     EXPECT_EQ(outcome, Outcome::first);

@@ -150,8 +150,14 @@ TEST_F(BoundedReadTest, WhatDecidesForLongMayTakeLonger)
     BoundedRead reader(brief);
     const QString pipe = makePipe("label");
     const auto writer = std::async(std::launch::async, [&] {
-        std::this_thread::sleep_for(2 * brief);
+        // Two others are given up in the meantime.
+        BoundedRead others(brief);
+        for (const char *name : {"one", "other"})
+            EXPECT_FALSE(others.file(makePipe(name)));
         release(pipe, "Tdie");
+        for (const char *name : {"one", "other"})
+            release(path(name));
+        waitForLate(others);
     });
     EXPECT_EQ(reader.lastingFile(pipe), QByteArray("Tdie"));
 }

@@ -2,15 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace brimlight::test {
+
+using namespace std::chrono_literals;
+
 namespace {
 
 /// Rewrites two keys that always hold the same text, for ever.
@@ -22,6 +27,12 @@ namespace {
         const QString text = QString::number(i) + QString(20000, QLatin1Char('x'));
         defaults.setValue(QStringLiteral("first"), text);
     }
+}
+
+ino_t fileNumber(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
 }
 
 } // namespace
@@ -38,8 +49,14 @@ TEST(DefaultsCrash, KilledAtAnyMomentTheFileIsTheOldOneOrTheNewOneWhole)
         ASSERT_GE(child, 0);
         if (child == 0)
             writeForEver(path);
-        // Moments spread over several writes, not aligned with any of them.
-        usleep(static_cast<useconds_t>(1500 + round * 370));
+        // Another file takes the place of the last one with each write. Then moments spread over the next
+        // writes, not aligned with any of them.
+        const ino_t before = fileNumber(path);
+        const QDeadlineTimer patience(10s);
+        while (fileNumber(path) == before && !patience.hasExpired()) {
+        }
+        for (int looks = round * 53; looks > 0; --looks)
+            fileNumber(path);
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
         QFile file(path);

@@ -44,19 +44,6 @@ protected:
     /// The middle of a cell.
     QPoint cell(int col, int row) const { return inPanel(16 + col * 86 + 37, 40 + row * 86 + 37); }
 
-    /// Nothing moves there but the digits and hands of clocks.
-    bool isStill(const QRect &area) const
-    {
-        // Some frames, and longer than any pause within a movement.
-        constexpr milliseconds frames{150};
-        const QImage before = x.screenshot();
-        std::this_thread::sleep_for(frames);
-        return changed(before, area) < 0.01;
-    }
-    bool rests(const QRect &area) const
-    {
-        return waitUntil([&] { return isStill(area); });
-    }
     /// Does it and waits until much of `area` looks different and no longer moves.
     template<typename Action>
     bool see(const QRect &area, Action action)
@@ -90,7 +77,7 @@ protected:
     QRect frame;
 };
 
-INSTANTIATE_TEST_SUITE_P(OnScreen, Arranging, testing::ValuesIn(windowManagers), nameOf);
+INSTANTIATE_TEST_SUITE_P(OnScreen, Arranging, testing::ValuesIn(anyDesktop), nameOf);
 
 TEST_P(Arranging, FromTheFirstStartToTheNext)
 {

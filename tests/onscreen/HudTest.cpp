@@ -58,9 +58,15 @@ protected:
     QRect track;
 };
 
-INSTANTIATE_TEST_SUITE_P(OnScreen, Hud, testing::ValuesIn(withAndWithoutCompositor), nameOf);
+INSTANTIATE_TEST_SUITE_P(OnScreen, Hud, testing::ValuesIn(anyDesktop), nameOf);
 
-TEST_P(Hud, IsSeenUnderTheStripAndNowhereElse)
+class HudInSight : public Hud
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(OnScreen, HudInSight, testing::ValuesIn(withAndWithoutCompositor), nameOf);
+
+TEST_P(HudInSight, IsSeenUnderTheStripAndNowhereElse)
 {
     EXPECT_TRUE(nothingIsSeen());
     ASSERT_TRUE(showsFirst());
@@ -82,7 +88,7 @@ TEST_P(Hud, IsSeenUnderTheStripAndNowhereElse)
 TEST_P(Hud, GoesOneAndAHalfSecondsAfterTheLastChange)
 {
     ASSERT_TRUE(showsFirst());
-    std::this_thread::sleep_for(milliseconds(1000));
+    EXPECT_TRUE(holds([this] { return isSeen(); }, milliseconds(600)));
     const auto last = Clock::now();
     ASSERT_TRUE(setVolume(u"80%"_s));
     // A busy machine may have taken so long that it had gone.
@@ -90,12 +96,11 @@ TEST_P(Hud, GoesOneAndAHalfSecondsAfterTheLastChange)
     ASSERT_TRUE(waitUntil([this] { return nothingIsSeen(); }));
     const auto seconds = std::chrono::duration<double>(Clock::now() - last).count();
     EXPECT_GT(seconds, 1.4);
-    EXPECT_LT(seconds, 4) << "a busy machine is slow";
     // The window is as small as before.
     EXPECT_TRUE(waitUntil([this] { return !programWindowAt(place.center()); }));
 }
 
-TEST_P(Hud, LetsClicksThrough)
+TEST_P(HudInSight, LetsClicksThrough)
 {
     Victim victim(session.display(), Victim::Kind::plain);
     ASSERT_TRUE(waitUntil([this] {
@@ -115,17 +120,15 @@ TEST_P(Hud, TheStripOpensThePanelMeanwhileAndThenNothingIsShown)
     const auto frame = openByTap();
     ASSERT_TRUE(frame);
     hand.moveTo(away());
-    std::this_thread::sleep_for(bounded);
+    ASSERT_TRUE(rests(*frame));
     const QImage open = x.screenshot();
     ASSERT_TRUE(setVolume(u"90%"_s));
-    std::this_thread::sleep_for(milliseconds(600));
-    EXPECT_EQ(changed(open, place), 0);
+    EXPECT_TRUE(holds([&] { return changed(open, place) == 0; }));
     hand.clickAt(onStrip());
     ASSERT_TRUE(waitForClose());
     hand.moveTo(away());
     EXPECT_TRUE(waitUntil([this] { return nothingIsSeen(); }));
-    std::this_thread::sleep_for(bounded);
-    EXPECT_TRUE(nothingIsSeen());
+    EXPECT_TRUE(holds([this] { return nothingIsSeen(); }));
 }
 
 TEST_P(Hud, AMutedDeviceShowsAnEmptyBar)
@@ -141,8 +144,7 @@ TEST_P(Hud, AServerThatIsRestartedShowsNothingByItself)
     audio.kill();
     ASSERT_TRUE(waitUntil([this] { return nothingIsSeen(); }));
     audio.start({sink});
-    std::this_thread::sleep_for(bounded);
-    EXPECT_TRUE(nothingIsSeen());
+    EXPECT_TRUE(holds([this] { return nothingIsSeen(); }));
     EXPECT_TRUE(showsFirst());
 }
 

@@ -1,12 +1,14 @@
 #include <arpa/inet.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
+#include <sys/timerfd.h>
+#include <unistd.h>
 
 #include <array>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
 
 /// Sends to everybody on a link, a steady number of bytes per second for some seconds:
 /// brimlight_link_sender ADDRESS BYTES SECONDS. Nobody has to listen, and nobody answers.
@@ -29,6 +31,12 @@ int main(int argc, char *argv[])
         ::inet_pton(AF_INET, argv[1], &everybody.sin_addr) != 1)
         return 2;
 
+    const int timer = ::timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC);
+    constexpr timespec step{.tv_sec = 0, .tv_nsec = 2'000'000};
+    const itimerspec pace{.it_interval = step, .it_value = step};
+    if (::timerfd_settime(timer, 0, &pace, nullptr) != 0)
+        return 2;
+
     using Clock = std::chrono::steady_clock;
     const auto begin = Clock::now();
     for (double sent = 0; sent < rate * seconds;) {
@@ -40,7 +48,9 @@ int main(int argc, char *argv[])
                 return 1;
             }
         }
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        uint64_t steps = 0;
+        if (::read(timer, &steps, sizeof steps) != sizeof steps)
+            return 1;
     }
     return 0;
 }

@@ -99,10 +99,25 @@ double OnScreenTest::changed(const QImage &before, const QRect &area) const
     const QRect compared = area & now.rect() & before.rect();
     int different = 0;
     for (int row = compared.top(); row <= compared.bottom(); ++row) {
+        const auto *const one = reinterpret_cast<const QRgb *>(now.constScanLine(row));
+        const auto *const other = reinterpret_cast<const QRgb *>(before.constScanLine(row));
         for (int column = compared.left(); column <= compared.right(); ++column)
-            different += now.pixel(column, row) != before.pixel(column, row);
+            different += ((one[column] ^ other[column]) & RGB_MASK) != 0;
     }
     return static_cast<double>(different) / std::max(1, compared.width() * compared.height());
+}
+
+bool OnScreenTest::isStill(const QRect &area) const
+{
+    // Some frames, and longer than any pause within a movement.
+    constexpr milliseconds frames{150};
+    const QImage before = x.screenshot();
+    return holds([&] { return changed(before, area) < 0.01; }, frames);
+}
+
+bool OnScreenTest::rests(const QRect &area) const
+{
+    return waitUntil([&] { return isStill(area); });
 }
 
 bool OnScreenTest::isSeen(const QRect &frame, const QImage &before) const

@@ -39,6 +39,10 @@ protected:
 
     /// The share of the pixels of `area` that are not as in `before`.
     double changed(const QImage &before, const QRect &area) const;
+    /// Nothing moves there but the digits and hands of clocks.
+    bool isStill(const QRect &area) const;
+    /// Waits until nothing moves.
+    bool rests(const QRect &area) const;
     /// All of `frame` but its rim is covered by the panel, and there is something on it.
     bool isSeen(const QRect &frame, const QImage &before) const;
     /// Keeps what is on the screen now for somebody who wants to see what the test judges; by itself at the

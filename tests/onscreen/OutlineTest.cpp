@@ -136,7 +136,7 @@ class OutlineAlone : public Outline
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(OnScreen, OutlineAlone, testing::ValuesIn(windowManagers), nameOf);
+INSTANTIATE_TEST_SUITE_P(OnScreen, OutlineAlone, testing::ValuesIn(anyDesktop), nameOf);
 
 TEST_P(OutlineAlone, NeverFlashesInBlackWhileItOpens)
 {

@@ -77,7 +77,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(OnScreen, Settings, testing::ValuesIn(windowManagers), nameOf);
+INSTANTIATE_TEST_SUITE_P(OnScreen, Settings, testing::ValuesIn(anyDesktop), nameOf);
 
 TEST_P(Settings, BothTabsHaveNamesAndRoles)
 {

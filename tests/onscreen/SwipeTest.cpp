@@ -20,7 +20,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(OnScreen, Swipe, testing::ValuesIn(windowManagers), nameOf);
+INSTANTIATE_TEST_SUITE_P(OnScreen, Swipe, testing::ValuesIn(anyDesktop), nameOf);
 
 TEST_P(Swipe, DownOpensAndPins)
 {

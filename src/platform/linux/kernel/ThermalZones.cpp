@@ -10,7 +10,7 @@
 namespace brimlight {
 namespace {
 
-constexpr double milliPerUnit = 1000.0;
+constexpr double milliPerDegree = 1000.0;
 
 /// Some types name the processor in words of their own.
 QString nameOfType(const QString &type)
@@ -53,7 +53,7 @@ std::optional<int> ThermalZones::match()
 std::optional<double> ThermalZones::celsius(int service)
 {
     const auto milli = sysfsNumber(m_reader.file(m_zones.at(service).folder + QStringLiteral("/temp")));
-    return milli ? std::optional(*milli / milliPerUnit) : std::nullopt;
+    return milli ? std::optional(*milli / milliPerDegree) : std::nullopt;
 }
 
 QString ThermalZones::name(int service)
