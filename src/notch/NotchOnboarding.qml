@@ -61,22 +61,12 @@ Item {
                 border.color: root.colors.accent
                 opacity: 0.4
 
-                SequentialAnimation on scale {
-                    running: root.live && root.visible && !Motion.reduced
-                    loops: Animation.Infinite
+                scale: 1 + 0.15 * swelling.value
 
-                    NumberAnimation {
-                        from: 1
-                        to: 1.15
-                        duration: 2000
-                        easing: Motion.easeInOut
-                    }
-                    NumberAnimation {
-                        from: 1.15
-                        to: 1
-                        duration: 2000
-                        easing: Motion.easeInOut
-                    }
+                SlowPulse {
+                    id: swelling
+
+                    running: root.live && root.visible && !Motion.reduced
                 }
             }
             Rectangle {
