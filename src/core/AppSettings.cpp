@@ -1,10 +1,9 @@
 #include "core/AppSettings.h"
 
+#include "core/Formats.h"
 #include "platform/UserDefaults.h"
 
 #include <QLocale>
-
-#include <cmath>
 
 namespace brimlight {
 namespace {
@@ -161,8 +160,7 @@ QString AppSettings::meridiem(const QDateTime &date, const std::optional<QTimeZo
 
 QString AppSettings::temperature(double celsius) const
 {
-    const double value = m_celsius ? celsius : celsius * 9 / 5 + 32;
-    return QString::number(std::llround(value)) + QStringLiteral("°");
+    return formats::degrees(celsius, m_celsius);
 }
 
 } // namespace brimlight

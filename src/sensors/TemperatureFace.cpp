@@ -1,9 +1,9 @@
 #include "sensors/TemperatureFace.h"
 
+#include "core/Formats.h"
 #include "theme/SignalColors.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace brimlight {
 
@@ -19,11 +19,6 @@ QColor temperatureTint(double celsius, const QColor &accent)
     constexpr double orangeFrom = 55;
     constexpr double redFrom = 75;
     return signalColors::byLevel(celsius, orangeFrom, redFrom, accent);
-}
-
-int displayTemperature(double celsius, bool inCelsius)
-{
-    return static_cast<int>(std::lround(inCelsius ? celsius : celsius * 9 / 5 + 32));
 }
 
 QString thermalStateText(ThermalState state)
@@ -78,7 +73,7 @@ std::optional<double> TemperatureFace::battery() const
 
 QString TemperatureFace::number(std::optional<double> celsius) const
 {
-    return celsius ? QString::number(displayTemperature(*celsius, settings().celsius())) : QString();
+    return celsius ? QString::number(formats::wholeDegrees(*celsius, settings().celsius())) : QString();
 }
 
 } // namespace brimlight

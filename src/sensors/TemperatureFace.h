@@ -11,8 +11,6 @@ namespace brimlight {
 /// Empty at 30 degrees Celsius, full at 100.
 double temperatureFraction(double celsius);
 QColor temperatureTint(double celsius, const QColor &accent);
-/// A whole number in the wanted unit.
-int displayTemperature(double celsius, bool inCelsius);
 /// "Nominal", "Fair", "Serious" or "Critical".
 QString thermalStateText(ThermalState state);
 
