@@ -1,11 +1,20 @@
 #include "sensors/TemperatureFace.h"
 
+#include "core/EnumTexts.h"
 #include "core/Formats.h"
 #include "theme/SignalColors.h"
 
 #include <algorithm>
 
 namespace brimlight {
+namespace {
+
+constexpr EnumTexts<ThermalState, 4> stateTexts{{{{ThermalState::nominal, u"Nominal"},
+                                                  {ThermalState::fair, u"Fair"},
+                                                  {ThermalState::serious, u"Serious"},
+                                                  {ThermalState::critical, u"Critical"}}}};
+
+} // namespace
 
 double temperatureFraction(double celsius)
 {
@@ -23,17 +32,7 @@ QColor temperatureTint(double celsius, const QColor &accent)
 
 QString thermalStateText(ThermalState state)
 {
-    switch (state) {
-    case ThermalState::nominal:
-        return QStringLiteral("Nominal");
-    case ThermalState::fair:
-        return QStringLiteral("Fair");
-    case ThermalState::serious:
-        return QStringLiteral("Serious");
-    case ThermalState::critical:
-        return QStringLiteral("Critical");
-    }
-    Q_UNREACHABLE();
+    return stateTexts.text(state);
 }
 
 TemperatureFace::TemperatureFace(WidgetContext &context, TemperatureService &temperature,
