@@ -1,5 +1,6 @@
 #include "theme/Motion.h"
 
+#include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
 #include "theme/ThemeStore.h"
 
@@ -193,7 +194,8 @@ TEST_F(MotionQml, AViewReadsAndChangesTheTheme)
     const QTemporaryDir folder;
     MemoryDefaults defaults;
     RecordingLog log;
-    ThemeStore store(folder.filePath(QStringLiteral("theme.json")), defaults, log);
+    DirectFileWriter files;
+    ThemeStore store({folder.filePath(QStringLiteral("theme.json")), files}, defaults, log);
     QJSEngine::setObjectOwnership(&store, QJSEngine::CppOwnership);
     engine.rootContext()->setContextProperty(QStringLiteral("testStore"), &store);
     const auto item = make(R"(Item {
