@@ -21,8 +21,6 @@ public:
     {
     }
 
-    const QString &path() const { return m_file.path(); }
-
     /// Absent when there is no file, or none that can be read and decoded; that one is kept aside before it
     /// is replaced.
     std::optional<Content> load()

@@ -21,7 +21,6 @@ class DiskFace : public brimlight::WidgetLogic
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
-    Q_PROPERTY(QString totalText READ totalText NOTIFY changed)
     Q_PROPERTY(QString status READ status NOTIFY changed)
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
 
@@ -31,7 +30,6 @@ public:
     double fraction() const { return m_snapshot.usedFraction; }
     QString percent() const;
     QString freeText() const { return formats::gigabytes(m_snapshot.freeBytes) + QStringLiteral(" free"); }
-    QString totalText() const { return formats::gigabytes(m_snapshot.totalBytes); }
     QString status() const { return diskStatus(m_snapshot.usedFraction); }
     QColor tint() const { return diskTint(m_snapshot.usedFraction, theme().accentColor()); }
 

@@ -70,6 +70,11 @@ std::optional<double> TemperatureFace::battery() const
     return latest ? latest->batteryC : std::nullopt;
 }
 
+QString TemperatureFace::cpuText() const
+{
+    return hasCpu() ? settings().temperature(*cpu()) : QString();
+}
+
 QString TemperatureFace::number(std::optional<double> celsius) const
 {
     return celsius ? QString::number(formats::wholeDegrees(*celsius, settings().celsius())) : QString();

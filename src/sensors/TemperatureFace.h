@@ -36,7 +36,7 @@ public:
     bool hasCpu() const { return cpu().has_value(); }
     double fraction() const { return temperatureFraction(cpu().value_or(0)); }
     /// "57°".
-    QString cpuText() const { return hasCpu() ? number(cpu()) + QStringLiteral("°") : QString(); }
+    QString cpuText() const;
     bool hasBattery() const { return battery().has_value(); }
     /// "30".
     QString batteryText() const { return number(battery()); }

@@ -73,11 +73,6 @@ Motion *Motion::create(QQmlEngine *engine, QJSEngine *)
     return new Motion(nullptr, engine);
 }
 
-QEasingCurve Motion::easeOut() const
-{
-    return easeOutCurve();
-}
-
 QEasingCurve Motion::easeInOut() const
 {
     return easeInOutCurve();

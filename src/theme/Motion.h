@@ -60,7 +60,6 @@ class Motion : public QObject
     Q_PROPERTY(brimlight::MotionCurve fade READ fade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve hudFade READ hudFade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve change READ change NOTIFY changed)
-    Q_PROPERTY(QEasingCurve easeOut READ easeOut CONSTANT)
     Q_PROPERTY(QEasingCurve easeInOut READ easeInOut CONSTANT)
 
 public:
@@ -103,7 +102,6 @@ public:
     MotionCurve change() const { return curve(Name::change); } ///< 0.25, what takes the place of something
 
     /// For a movement with a duration of its own. Who uses one asks `reduced`.
-    QEasingCurve easeOut() const;
     QEasingCurve easeInOut() const;
 
 Q_SIGNALS:

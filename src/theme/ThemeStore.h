@@ -36,7 +36,6 @@ public:
     /// The file need not exist; its folder is made when it is first written.
     ThemeStore(SavedFile file, UserDefaults &defaults, Log &log);
 
-    const QString &filePath() const { return m_document.path(); }
     const QList<Theme> &builtIns() const { return Theme::builtIns(); }
 
     const Theme &current() const { return m_current; }

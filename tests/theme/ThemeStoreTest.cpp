@@ -68,7 +68,6 @@ TEST_F(ThemeStoreTest, FirstStartIsMidnightAndWritesNothing)
     EXPECT_EQ(store->current(), Theme::midnight());
     EXPECT_EQ(store->glassStrength(), 0.55);
     EXPECT_EQ(store->builtIns(), Theme::builtIns());
-    EXPECT_EQ(store->filePath(), path);
     EXPECT_TRUE(files().isEmpty());
     EXPECT_TRUE(defaults.writes.isEmpty());
     store->selectPalette(QStringLiteral("ocean"));
