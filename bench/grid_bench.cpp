@@ -1,6 +1,7 @@
 // The work of one change of the layout. The file lies where nothing can be written, so the disk is left out;
 // the encoding, which every change does, is in.
 
+#include "fakes/DirectFileWriter.h"
 #include "grid/GridLayoutCodec.h"
 #include "grid/GridPlacement.h"
 #include "grid/GridStore.h"
@@ -51,7 +52,7 @@ class Store
 {
 public:
     explicit Store(qint64 count)
-        : m_store(QStringLiteral("/proc/brimlight/grid.json"), m_widgets)
+        : m_store({QStringLiteral("/proc/brimlight/grid.json"), m_files}, m_widgets)
         , m_layout(tidy(count))
     {
         reset();
@@ -64,6 +65,7 @@ public:
 
 private:
     WidgetRegistry m_widgets = oneKind();
+    test::DirectFileWriter m_files;
     GridStore m_store;
     GridLayout m_layout;
 };

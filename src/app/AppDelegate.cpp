@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <csignal>
+
 namespace brimlight {
 
 QString launchLine(const QString &version)
@@ -35,6 +37,8 @@ void AppDelegate::applicationDidFinishLaunching()
     m_notch->controller.show();
     m_statusBar.emplace(m_notch->controller, m_stores->loginItem, m_stores->updater,
                         m_stores->platform.statusItem, [] { QCoreApplication::quit(); });
+    // The end of a session ends the program as its menu does: what has just been set is written before.
+    m_stores->platform.unixSignals.install(SIGTERM, [] { QCoreApplication::quit(); });
     DebugSignalControls::installIfEnabled(m_flags, m_stores->platform.unixSignals, m_notch->controller,
                                           m_log);
 }

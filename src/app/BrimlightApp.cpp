@@ -77,7 +77,7 @@ int run(int argc, char **argv)
         status = QGuiApplication::exec();
     }
     // The thread of the bus may be at work, even wait for its daemon, and looks at the application object, so
-    // that is not taken from under it. Everything has been saved.
+    // that is not taken from under it. Every file has been written: the end of the platform waits for that.
     std::fflush(nullptr);
     std::_Exit(status);
 }

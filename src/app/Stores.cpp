@@ -3,6 +3,15 @@
 #include "app/AllWidgets.h"
 
 namespace brimlight {
+namespace {
+
+/// A file of the program's own.
+SavedFile document(const Platform &ports, const QString &name)
+{
+    return {AppPaths(ports.folders).appSupportFile(name), ports.files};
+}
+
+} // namespace
 
 Stores::Stores(const Platform &ports, const TraceLog &trace)
     : platform(ports)
@@ -10,8 +19,8 @@ Stores::Stores(const Platform &ports, const TraceLog &trace)
     , registry(allWidgets(*this))
     , motion(&ports.appearance)
     , viewModel(ports.defaults)
-    , theme(AppPaths(ports.folders).appSupportFile(QStringLiteral("theme.json")), ports.defaults, ports.log)
-    , grid(AppPaths(ports.folders).appSupportFile(QStringLiteral("grid.json")), registry)
+    , theme(document(ports, QStringLiteral("theme.json")), ports.defaults, ports.log)
+    , grid(document(ports, QStringLiteral("grid.json")), registry)
     , ticker(ports.scheduler, trace)
     , power(ports.power, ports.scheduler)
     , systemHistory(ports.statistics, ports.scheduler)

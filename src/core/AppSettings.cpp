@@ -1,10 +1,10 @@
 #include "core/AppSettings.h"
 
+#include "core/EnumTexts.h"
+#include "core/Formats.h"
 #include "platform/UserDefaults.h"
 
 #include <QLocale>
-
-#include <cmath>
 
 namespace brimlight {
 namespace {
@@ -34,6 +34,18 @@ QString hoverDelayKey()
     return QStringLiteral("brimlight.hoverDelay");
 }
 
+constexpr EnumTexts<RefreshRate, 4> rawValues{{{{RefreshRate::live, u"live"},
+                                                {RefreshRate::balanced, u"balanced"},
+                                                {RefreshRate::efficient, u"efficient"},
+                                                {RefreshRate::saver, u"saver"}}}};
+static_assert(rawValues.covers(allRefreshRates));
+
+constexpr EnumTexts<RefreshRate, 4> labels{{{{RefreshRate::live, u"Live · 0.5 s"},
+                                             {RefreshRate::balanced, u"Balanced · 1 s"},
+                                             {RefreshRate::efficient, u"Efficient · 2 s"},
+                                             {RefreshRate::saver, u"Power Saver · 5 s"}}}};
+static_assert(labels.covers(allRefreshRates));
+
 QDateTime inZone(const QDateTime &date, const std::optional<QTimeZone> &zone)
 {
     return zone ? date.toTimeZone(*zone) : date.toLocalTime();
@@ -43,41 +55,17 @@ QDateTime inZone(const QDateTime &date, const std::optional<QTimeZone> &zone)
 
 QString rawValue(RefreshRate rate)
 {
-    switch (rate) {
-    case RefreshRate::live:
-        return QStringLiteral("live");
-    case RefreshRate::balanced:
-        return QStringLiteral("balanced");
-    case RefreshRate::efficient:
-        return QStringLiteral("efficient");
-    case RefreshRate::saver:
-        return QStringLiteral("saver");
-    }
-    Q_UNREACHABLE();
+    return rawValues.text(rate);
 }
 
 std::optional<RefreshRate> refreshRateFromRawValue(const QString &raw)
 {
-    for (const RefreshRate rate : allRefreshRates) {
-        if (rawValue(rate) == raw)
-            return rate;
-    }
-    return std::nullopt;
+    return rawValues.value(raw);
 }
 
 QString label(RefreshRate rate)
 {
-    switch (rate) {
-    case RefreshRate::live:
-        return QStringLiteral("Live · 0.5 s");
-    case RefreshRate::balanced:
-        return QStringLiteral("Balanced · 1 s");
-    case RefreshRate::efficient:
-        return QStringLiteral("Efficient · 2 s");
-    case RefreshRate::saver:
-        return QStringLiteral("Power Saver · 5 s");
-    }
-    Q_UNREACHABLE();
+    return labels.text(rate);
 }
 
 AppSettings::AppSettings(UserDefaults &defaults, QObject *parent)
@@ -161,8 +149,7 @@ QString AppSettings::meridiem(const QDateTime &date, const std::optional<QTimeZo
 
 QString AppSettings::temperature(double celsius) const
 {
-    const double value = m_celsius ? celsius : celsius * 9 / 5 + 32;
-    return QString::number(std::llround(value)) + QStringLiteral("°");
+    return formats::degrees(celsius, m_celsius);
 }
 
 } // namespace brimlight

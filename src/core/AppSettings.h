@@ -45,7 +45,6 @@ class AppSettings : public QObject
     Q_PROPERTY(bool clock24h READ clock24h WRITE setClock24h NOTIFY clock24hChanged)
     Q_PROPERTY(bool showSeconds READ showSeconds WRITE setShowSeconds NOTIFY showSecondsChanged)
     Q_PROPERTY(bool celsius READ celsius WRITE setCelsius NOTIFY celsiusChanged)
-    Q_PROPERTY(double hoverDelay READ hoverDelay WRITE setHoverDelay NOTIFY hoverDelayChanged)
 
 public:
     explicit AppSettings(UserDefaults &defaults, QObject *parent = nullptr);
@@ -72,7 +71,7 @@ public:
     /// The locale's marker for the half of the day on a 12-hour clock, otherwise empty.
     QString meridiem(const QDateTime &date, const std::optional<QTimeZone> &timeZone = std::nullopt) const;
     /// A finite temperature in the user's unit, rounded, with the degree sign and no unit letter.
-    Q_INVOKABLE QString temperature(double celsius) const;
+    QString temperature(double celsius) const;
 
 Q_SIGNALS:
     void clock24hChanged();

@@ -1,10 +1,26 @@
 #include "core/Translations.h"
 
+#include "core/EnumTexts.h"
+
 #include <QHash>
 #include <QStringList>
 
 namespace brimlight {
 namespace {
+
+constexpr EnumTexts<AppLanguage, 5> rawValues{{{{AppLanguage::english, u"en"},
+                                                {AppLanguage::german, u"de"},
+                                                {AppLanguage::french, u"fr"},
+                                                {AppLanguage::spanish, u"es"},
+                                                {AppLanguage::italian, u"it"}}}};
+static_assert(rawValues.covers(allLanguages));
+
+constexpr EnumTexts<AppLanguage, 5> labels{{{{AppLanguage::english, u"English"},
+                                             {AppLanguage::german, u"Deutsch"},
+                                             {AppLanguage::french, u"Français"},
+                                             {AppLanguage::spanish, u"Español"},
+                                             {AppLanguage::italian, u"Italiano"}}}};
+static_assert(labels.covers(allLanguages));
 
 struct Row
 {
@@ -133,45 +149,17 @@ const QHash<QString, const Row *> &rowsByKey()
 
 QString rawValue(AppLanguage language)
 {
-    switch (language) {
-    case AppLanguage::english:
-        return QStringLiteral("en");
-    case AppLanguage::german:
-        return QStringLiteral("de");
-    case AppLanguage::french:
-        return QStringLiteral("fr");
-    case AppLanguage::spanish:
-        return QStringLiteral("es");
-    case AppLanguage::italian:
-        return QStringLiteral("it");
-    }
-    Q_UNREACHABLE();
+    return rawValues.text(language);
 }
 
 std::optional<AppLanguage> languageFromRawValue(const QString &raw)
 {
-    for (const AppLanguage language : allLanguages) {
-        if (rawValue(language) == raw)
-            return language;
-    }
-    return std::nullopt;
+    return rawValues.value(raw);
 }
 
 QString label(AppLanguage language)
 {
-    switch (language) {
-    case AppLanguage::english:
-        return QStringLiteral("English");
-    case AppLanguage::german:
-        return QStringLiteral("Deutsch");
-    case AppLanguage::french:
-        return QStringLiteral("Français");
-    case AppLanguage::spanish:
-        return QStringLiteral("Español");
-    case AppLanguage::italian:
-        return QStringLiteral("Italiano");
-    }
-    Q_UNREACHABLE();
+    return labels.text(language);
 }
 
 QStringList translationKeys()

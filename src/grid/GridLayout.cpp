@@ -1,52 +1,53 @@
 #include "grid/GridLayout.h"
 
+#include "core/EnumTexts.h"
+
 namespace brimlight {
 namespace {
 
-struct SizeTraits
+struct Span
 {
-    const char *rawValue;
     int columns;
     int rows;
 };
 
-const SizeTraits &traits(WidgetSize size)
+constexpr Span span(WidgetSize size)
 {
     // In the order of the enumeration.
-    static constexpr std::array<SizeTraits, allWidgetSizes.size()> table{{{"small", 1, 1},
-                                                                          {"tall", 1, 2},
-                                                                          {"wide", 2, 1},
-                                                                          {"large", 2, 2},
-                                                                          {"banner", 3, 1},
-                                                                          {"wideTall", 3, 2},
-                                                                          {"huge", 3, 3}}};
-    return table.at(static_cast<size_t>(size));
+    constexpr std::array<Span, allWidgetSizes.size()> spans{
+        {{1, 1}, {1, 2}, {2, 1}, {2, 2}, {3, 1}, {3, 2}, {3, 3}}};
+    return spans.at(static_cast<size_t>(size));
 }
+
+constexpr EnumTexts<WidgetSize, 7> rawValues{{{{WidgetSize::small, u"small"},
+                                               {WidgetSize::tall, u"tall"},
+                                               {WidgetSize::wide, u"wide"},
+                                               {WidgetSize::large, u"large"},
+                                               {WidgetSize::banner, u"banner"},
+                                               {WidgetSize::wideTall, u"wideTall"},
+                                               {WidgetSize::huge, u"huge"}}}};
+static_assert(rawValues.covers(allWidgetSizes));
 
 } // namespace
 
 int columnSpan(WidgetSize size)
 {
-    return traits(size).columns;
+    return span(size).columns;
 }
 
 int rowSpan(WidgetSize size)
 {
-    return traits(size).rows;
+    return span(size).rows;
 }
 
 QString rawValue(WidgetSize size)
 {
-    return QString::fromLatin1(traits(size).rawValue);
+    return rawValues.text(size);
 }
 
 std::optional<WidgetSize> widgetSizeFromRawValue(const QString &raw)
 {
-    for (const WidgetSize size : allWidgetSizes) {
-        if (raw == QLatin1String(traits(size).rawValue))
-            return size;
-    }
-    return std::nullopt;
+    return rawValues.value(raw);
 }
 
 GridLayout GridLayout::defaultLayout()

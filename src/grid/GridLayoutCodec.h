@@ -17,6 +17,6 @@ QByteArray encodeLayout(const GridLayout &layout);
 /// key, a wrong type or an unknown size anywhere makes the whole document absent. A null counts as an absent
 /// key. The result's `pageCount` is never below 1 nor below the largest page plus 1. Ranges and kinds are not
 /// checked.
-std::optional<GridLayout> decodeLayout(const QByteArray &json);
+std::optional<GridLayout> decodeLayout(const QByteArray &bytes);
 
 } // namespace brimlight

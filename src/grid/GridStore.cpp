@@ -1,6 +1,5 @@
 #include "grid/GridStore.h"
 
-#include "grid/GridLayoutCodec.h"
 #include "grid/GridPlacement.h"
 #include "grid/WidgetRegistry.h"
 
@@ -25,16 +24,13 @@ qint64 nextOrder(const QList<WidgetInstance> &instances)
 
 } // namespace
 
-GridStore::GridStore(const QString &filePath, const WidgetRegistry &registry, QObject *parent)
+GridStore::GridStore(SavedFile file, const WidgetRegistry &registry, QObject *parent)
     : QObject(parent)
     , m_registry(registry)
-    , m_file(filePath)
+    , m_document(std::move(file))
 {
-    const auto bytes = m_file.read();
-    auto decoded = bytes ? decodeLayout(*bytes) : std::nullopt;
-    if (bytes && !decoded)
-        m_file.markUnusable();
-    m_layout = decoded ? std::move(*decoded) : GridLayout::defaultLayout();
+    auto stored = m_document.load();
+    m_layout = stored ? std::move(*stored) : GridLayout::defaultLayout();
     if (normalizePlacements(m_layout))
         save();
 }
@@ -211,8 +207,7 @@ bool GridStore::isFree(const WidgetInstance &candidate) const
 
 void GridStore::save()
 {
-    // A failed write is not reported: the next change tries again with the whole document.
-    m_file.write(encodeLayout(m_layout));
+    m_document.save(m_layout);
     Q_EMIT layoutChanged();
 }
 

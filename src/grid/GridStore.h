@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grid/GridLayout.h"
-#include "platform/WholeFile.h"
+#include "core/Document.h"
+#include "grid/GridLayoutCodec.h"
 
 #include <QObject>
 #include <QtQmlIntegration>
@@ -13,7 +13,7 @@ namespace brimlight {
 class WidgetRegistry;
 
 /// The single owner of the user's widget layout: loads and repairs it, answers where tiles fit, carries out
-/// every change and writes the file after each. Tiles stay where they were put; nothing flows.
+/// every change and saves it after each. Tiles stay where they were put; nothing flows.
 class GridStore : public QObject
 {
     Q_OBJECT
@@ -22,8 +22,8 @@ class GridStore : public QObject
 
 public:
     /// A file that cannot be read or decoded gives the default layout, silently; it is kept aside before the
-    /// first write. A file that needed repair is written at once.
-    GridStore(const QString &filePath, const WidgetRegistry &registry, QObject *parent = nullptr);
+    /// first write. A layout that needed repair is saved at once.
+    GridStore(SavedFile file, const WidgetRegistry &registry, QObject *parent = nullptr);
 
     const GridLayout &layout() const { return m_layout; }
     /// Assigns the document as it stands: neither repaired nor written before the next change.
@@ -66,11 +66,11 @@ private:
     WidgetInstance *find(const QUuid &id);
     /// True when no other placed instance of its page overlaps `candidate`.
     bool isFree(const WidgetInstance &candidate) const;
-    /// Notifies and writes the whole file.
+    /// Notifies and saves the whole document.
     void save();
 
     const WidgetRegistry &m_registry;
-    WholeFile m_file;
+    Document<encodeLayout, decodeLayout> m_document;
     GridLayout m_layout;
 };
 

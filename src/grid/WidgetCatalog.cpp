@@ -1,5 +1,6 @@
 #include "grid/WidgetCatalog.h"
 
+#include "core/EnumTexts.h"
 #include "grid/GridMetrics.h"
 #include "grid/GridStore.h"
 #include "grid/WidgetRegistry.h"
@@ -9,6 +10,18 @@
 #include <algorithm>
 
 namespace brimlight {
+namespace {
+
+constexpr EnumTexts<WidgetSize, 7> names{{{{WidgetSize::small, u"Small"},
+                                           {WidgetSize::tall, u"Tall"},
+                                           {WidgetSize::wide, u"Wide"},
+                                           {WidgetSize::large, u"Large"},
+                                           {WidgetSize::banner, u"Banner"},
+                                           {WidgetSize::wideTall, u"Big"},
+                                           {WidgetSize::huge, u"Huge"}}}};
+static_assert(names.covers(allWidgetSizes));
+
+} // namespace
 
 QString sizeText(WidgetSize size)
 {
@@ -17,26 +30,7 @@ QString sizeText(WidgetSize size)
 
 QString sizeLabel(WidgetSize size)
 {
-    const auto name = [size] {
-        switch (size) {
-        case WidgetSize::small:
-            return QStringLiteral("Small");
-        case WidgetSize::tall:
-            return QStringLiteral("Tall");
-        case WidgetSize::wide:
-            return QStringLiteral("Wide");
-        case WidgetSize::large:
-            return QStringLiteral("Large");
-        case WidgetSize::banner:
-            return QStringLiteral("Banner");
-        case WidgetSize::wideTall:
-            return QStringLiteral("Big");
-        case WidgetSize::huge:
-            return QStringLiteral("Huge");
-        }
-        Q_UNREACHABLE();
-    }();
-    return QStringLiteral("%1 (%2)").arg(name, sizeText(size));
+    return QStringLiteral("%1 (%2)").arg(names.text(size), sizeText(size));
 }
 
 GalleryEntry galleryEntry(const WidgetMetadata &metadata)

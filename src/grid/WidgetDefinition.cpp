@@ -1,22 +1,21 @@
 #include "grid/WidgetDefinition.h"
 
+#include "core/EnumTexts.h"
+
 namespace brimlight {
+namespace {
+
+constexpr EnumTexts<WidgetPermission, 5> rawValues{{{{WidgetPermission::calendar, u"calendar"},
+                                                     {WidgetPermission::reminders, u"reminders"},
+                                                     {WidgetPermission::weather, u"weather"},
+                                                     {WidgetPermission::microphone, u"microphone"},
+                                                     {WidgetPermission::accessibility, u"accessibility"}}}};
+
+} // namespace
 
 QString rawValue(WidgetPermission permission)
 {
-    switch (permission) {
-    case WidgetPermission::calendar:
-        return QStringLiteral("calendar");
-    case WidgetPermission::reminders:
-        return QStringLiteral("reminders");
-    case WidgetPermission::weather:
-        return QStringLiteral("weather");
-    case WidgetPermission::microphone:
-        return QStringLiteral("microphone");
-    case WidgetPermission::accessibility:
-        return QStringLiteral("accessibility");
-    }
-    Q_UNREACHABLE();
+    return rawValues.text(permission);
 }
 
 } // namespace brimlight

@@ -1,5 +1,7 @@
 #include "notch/HUDLevel.h"
 
+#include "core/Formats.h"
+
 #include <algorithm>
 
 namespace brimlight::hudlevel {
@@ -27,7 +29,7 @@ QString percent(double level)
 {
     // Volumes are of single precision, in which 0.45 is a little less and yet 45 of 100.
     constexpr double rounding = 1e-4;
-    return QStringLiteral("%1%").arg(static_cast<int>(level * 100 + rounding));
+    return formats::percentCut(level, rounding);
 }
 
 } // namespace brimlight::hudlevel

@@ -4,6 +4,7 @@
 #include "platform/AudioServer.h"
 #include "platform/DisplayBrightness.h"
 #include "platform/DoNotDisturb.h"
+#include "platform/FileWriter.h"
 #include "platform/Folders.h"
 #include "platform/HostStatistics.h"
 #include "platform/Log.h"
@@ -29,6 +30,7 @@ struct Platform
 {
     Scheduler &scheduler;
     UserDefaults &defaults;
+    FileWriter &files;
     Folders &folders;
     Log &log;
     Screens &screens;

@@ -3,7 +3,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QTemporaryFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <unistd.h>
 
 namespace brimlight {
 
@@ -26,7 +30,7 @@ std::optional<QByteArray> WholeFile::read()
     return content;
 }
 
-bool WholeFile::write(const QByteArray &content)
+bool WholeFile::write(const QByteArray &content, const Sync &sync)
 {
     m_error.clear();
     if (m_unusable && !keepAside()) {
@@ -37,11 +41,35 @@ bool WholeFile::write(const QByteArray &content)
         m_error = QStringLiteral("the folder cannot be made");
         return false;
     }
-    QSaveFile file(m_path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
-        return true;
-    m_error = file.errorString();
-    return false;
+    return replace(content, sync);
+}
+
+void WholeFile::untilOnDisk(int descriptor)
+{
+    ::fdatasync(descriptor);
+}
+
+bool WholeFile::replace(const QByteArray &content, const Sync &sync)
+{
+    const QString target = QFileInfo(m_path).canonicalFilePath();
+    const QFileInfo old(target.isEmpty() ? m_path : target);
+    // It has no name until it is asked for one, where the file system can do that: a process that is killed
+    // while it writes leaves nothing behind.
+    QTemporaryFile file(QStringLiteral("%1/.%2.XXXXXX").arg(old.absolutePath(), old.fileName()));
+    if (!file.open() || file.write(content) != content.size() || !file.flush()) {
+        m_error = file.errorString();
+        return false;
+    }
+    if (old.exists())
+        file.setPermissions(old.permissions());
+    sync(file.handle());
+    if (::rename(QFile::encodeName(file.fileName()).constData(),
+                 QFile::encodeName(old.absoluteFilePath()).constData()) != 0) {
+        m_error = qt_error_string(errno);
+        return false;
+    }
+    file.setAutoRemove(false);
+    return true;
 }
 
 bool WholeFile::keepAside()

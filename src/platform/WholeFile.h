@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace brimlight {
@@ -13,6 +14,9 @@ namespace brimlight {
 class WholeFile
 {
 public:
+    /// Waits until what was written to the descriptor is on the disk, or gives up waiting.
+    using Sync = std::function<void(int descriptor)>;
+
     explicit WholeFile(QString path)
         : m_path(std::move(path))
     {
@@ -28,13 +32,19 @@ public:
     void markUnusable() { m_unusable = true; }
 
     /// Replaces the file atomically, creating its folder. False when that fails, or when an unusable file
-    /// cannot be moved aside; the file then is what it was.
-    bool write(const QByteArray &content);
+    /// cannot be moved aside; the file then is what it was. A link stays one, permissions stay what they
+    /// were; a new file is the user's alone. The new content takes the old one's place after `sync`: a disk
+    /// that loses its power then has one of the two.
+    bool write(const QByteArray &content, const Sync &sync = untilOnDisk);
     /// Why the last `write()` failed, for the log.
     const QString &errorString() const { return m_error; }
 
+    /// Takes as long as the disk does.
+    static void untilOnDisk(int descriptor);
+
 private:
     bool keepAside();
+    bool replace(const QByteArray &content, const Sync &sync);
 
     QString m_path;
     QString m_error;

@@ -1,5 +1,6 @@
 #include "sensors/BatteryFace.h"
 
+#include "core/Formats.h"
 #include "theme/SignalColors.h"
 
 namespace brimlight {
@@ -8,19 +9,14 @@ namespace {
 constexpr int redBelow = 21;
 constexpr int normalAbove = 40;
 
-QString hoursAndMinutes(int minutes)
-{
-    return QString::asprintf("%d:%02d", minutes / 60, minutes % 60);
-}
-
 } // namespace
 
 QString batteryDetail(const BatterySnapshot &snapshot)
 {
     if (snapshot.isCharging && snapshot.timeToFull >= 1)
-        return hoursAndMinutes(snapshot.timeToFull) + QStringLiteral(" to full");
+        return formats::hoursAndMinutes(snapshot.timeToFull) + QStringLiteral(" to full");
     if (!snapshot.isCharging && snapshot.timeToEmpty >= 1)
-        return hoursAndMinutes(snapshot.timeToEmpty) + QStringLiteral(" left");
+        return formats::hoursAndMinutes(snapshot.timeToEmpty) + QStringLiteral(" left");
     if (snapshot.isPluggedIn && snapshot.percent >= 100)
         return QStringLiteral("Fully charged");
     return QStringLiteral("Battery");
@@ -50,7 +46,7 @@ QString BatteryFace::number() const
 
 QString BatteryFace::percent() const
 {
-    return m_snapshot.percent < 0 ? number() : number() + QLatin1Char('%');
+    return m_snapshot.percent < 0 ? number() : formats::percentNumber(m_snapshot.percent);
 }
 
 QString BatteryFace::status() const

@@ -1,5 +1,6 @@
 #include "sensors/BatteryHealthFace.h"
 
+#include "core/Formats.h"
 #include "theme/SignalColors.h"
 
 namespace brimlight {
@@ -19,7 +20,7 @@ BatteryHealthFace::BatteryHealthFace(WidgetContext &context, PowerSources &power
 
 QString BatteryHealthFace::percent() const
 {
-    return m_snapshot ? QStringLiteral("%1%").arg(m_snapshot->healthPercent) : QString();
+    return m_snapshot ? formats::percentNumber(m_snapshot->healthPercent) : QString();
 }
 
 QString BatteryHealthFace::cycles() const

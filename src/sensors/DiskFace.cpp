@@ -1,6 +1,5 @@
 #include "sensors/DiskFace.h"
 
-#include "sensors/Percent.h"
 #include "theme/SignalColors.h"
 
 namespace brimlight {
@@ -10,12 +9,6 @@ constexpr double watchFrom = 0.8;
 constexpr double redFrom = 0.92;
 
 } // namespace
-
-QString gb(int64_t bytes)
-{
-    const double value = static_cast<double>(bytes) / 1e9;
-    return QString::asprintf(value >= 100 ? "%.0f GB" : "%.1f GB", value);
-}
 
 QColor diskTint(double usedFraction, const QColor &accent)
 {
@@ -36,7 +29,7 @@ DiskFace::DiskFace(WidgetContext &context, HostStatistics &statistics)
 
 QString DiskFace::percent() const
 {
-    return wholePercent(m_snapshot.usedFraction);
+    return formats::percent(m_snapshot.usedFraction);
 }
 
 } // namespace brimlight

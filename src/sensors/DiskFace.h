@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Formats.h"
 #include "grid/WidgetLogic.h"
 #include "sensors/DiskReader.h"
 
@@ -7,8 +8,6 @@
 
 namespace brimlight {
 
-/// Decimal gigabytes: "512 GB", "99.9 GB".
-QString gb(int64_t bytes);
 QColor diskTint(double usedFraction, const QColor &accent);
 /// "Healthy" or "Watch".
 QString diskStatus(double usedFraction);
@@ -22,7 +21,6 @@ class DiskFace : public brimlight::WidgetLogic
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
     Q_PROPERTY(QString percent READ percent NOTIFY changed)
     Q_PROPERTY(QString freeText READ freeText NOTIFY changed)
-    Q_PROPERTY(QString totalText READ totalText NOTIFY changed)
     Q_PROPERTY(QString status READ status NOTIFY changed)
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
 
@@ -31,8 +29,7 @@ public:
 
     double fraction() const { return m_snapshot.usedFraction; }
     QString percent() const;
-    QString freeText() const { return gb(m_snapshot.freeBytes) + QStringLiteral(" free"); }
-    QString totalText() const { return gb(m_snapshot.totalBytes); }
+    QString freeText() const { return formats::gigabytes(m_snapshot.freeBytes) + QStringLiteral(" free"); }
     QString status() const { return diskStatus(m_snapshot.usedFraction); }
     QColor tint() const { return diskTint(m_snapshot.usedFraction, theme().accentColor()); }
 

@@ -3,30 +3,6 @@
 #include <algorithm>
 
 namespace brimlight {
-namespace {
-
-constexpr double mega = 1e6;
-constexpr double kilo = 1e3;
-
-} // namespace
-
-QString rateText(double bytesPerSecond)
-{
-    if (bytesPerSecond >= mega)
-        return QString::asprintf("%.1f MB/s", bytesPerSecond / mega);
-    if (bytesPerSecond >= kilo)
-        return QString::asprintf("%.0f KB/s", bytesPerSecond / kilo);
-    return QString::asprintf("%.0f B/s", bytesPerSecond);
-}
-
-QString compactRate(double bytesPerSecond)
-{
-    if (bytesPerSecond >= mega)
-        return QString::asprintf("%.1fM", bytesPerSecond / mega);
-    if (bytesPerSecond >= kilo)
-        return QString::asprintf("%.0fK", bytesPerSecond / kilo);
-    return QString::asprintf("%.0f", bytesPerSecond);
-}
 
 NetworkFace::NetworkFace(WidgetContext &context, HostStatistics &statistics)
     : WidgetLogic(context)

@@ -1,14 +1,10 @@
 #pragma once
 
+#include "core/Formats.h"
 #include "grid/WidgetLogic.h"
 #include "sensors/NetworkReader.h"
 
 namespace brimlight {
-
-/// Bytes per second: "3.4 MB/s", "12 KB/s", "999 B/s".
-QString rateText(double bytesPerSecond);
-/// The same without its unit: "3.4M", "12K", "999".
-QString compactRate(double bytesPerSecond);
 
 /// What the network widget shows. Every widget has a baseline of its own, so its first rates are zero.
 class NetworkFace : public brimlight::WidgetLogic
@@ -27,10 +23,10 @@ public:
 
     NetworkFace(WidgetContext &context, HostStatistics &statistics);
 
-    QString down() const { return rateText(m_snapshot.down); }
-    QString up() const { return rateText(m_snapshot.up); }
-    QString compactDown() const { return compactRate(m_snapshot.down); }
-    QString compactUp() const { return compactRate(m_snapshot.up); }
+    QString down() const { return formats::rate(m_snapshot.down); }
+    QString up() const { return formats::rate(m_snapshot.up); }
+    QString compactDown() const { return formats::compactRate(m_snapshot.down); }
+    QString compactUp() const { return formats::compactRate(m_snapshot.up); }
     /// The rates of the last ticks, oldest first, from 0 to 1. What is below one byte per second stays flat.
     QList<double> bars() const;
 

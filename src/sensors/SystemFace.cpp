@@ -1,7 +1,7 @@
 #include "sensors/SystemFace.h"
 
+#include "core/Formats.h"
 #include "platform/HostStatistics.h"
-#include "sensors/Percent.h"
 #include "theme/SignalColors.h"
 
 namespace brimlight {
@@ -28,12 +28,12 @@ SystemFace::SystemFace(WidgetContext &context, HostStatistics &statistics)
 
 QString SystemFace::cpuText() const
 {
-    return wholePercent(cpu());
+    return formats::percent(cpu());
 }
 
 QString SystemFace::ramText() const
 {
-    return wholePercent(ram());
+    return formats::percent(ram());
 }
 
 QString SystemFace::detail() const

@@ -7,9 +7,6 @@ namespace brimlight {
 class HostStatistics;
 class MachineInfo;
 
-/// "3d 4h", "4h 12m" or "12m"; whole seconds.
-QString uptimeString(int64_t seconds);
-
 /// What the system info widget shows: four rows of label and value.
 class SystemInfoFace : public brimlight::WidgetLogic
 {

@@ -1,11 +1,20 @@
 #include "sensors/TemperatureFace.h"
 
+#include "core/EnumTexts.h"
+#include "core/Formats.h"
 #include "theme/SignalColors.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace brimlight {
+namespace {
+
+constexpr EnumTexts<ThermalState, 4> stateTexts{{{{ThermalState::nominal, u"Nominal"},
+                                                  {ThermalState::fair, u"Fair"},
+                                                  {ThermalState::serious, u"Serious"},
+                                                  {ThermalState::critical, u"Critical"}}}};
+
+} // namespace
 
 double temperatureFraction(double celsius)
 {
@@ -21,24 +30,9 @@ QColor temperatureTint(double celsius, const QColor &accent)
     return signalColors::byLevel(celsius, orangeFrom, redFrom, accent);
 }
 
-int displayTemperature(double celsius, bool inCelsius)
-{
-    return static_cast<int>(std::lround(inCelsius ? celsius : celsius * 9 / 5 + 32));
-}
-
 QString thermalStateText(ThermalState state)
 {
-    switch (state) {
-    case ThermalState::nominal:
-        return QStringLiteral("Nominal");
-    case ThermalState::fair:
-        return QStringLiteral("Fair");
-    case ThermalState::serious:
-        return QStringLiteral("Serious");
-    case ThermalState::critical:
-        return QStringLiteral("Critical");
-    }
-    Q_UNREACHABLE();
+    return stateTexts.text(state);
 }
 
 TemperatureFace::TemperatureFace(WidgetContext &context, TemperatureService &temperature,
@@ -76,9 +70,14 @@ std::optional<double> TemperatureFace::battery() const
     return latest ? latest->batteryC : std::nullopt;
 }
 
+QString TemperatureFace::cpuText() const
+{
+    return hasCpu() ? settings().temperature(*cpu()) : QString();
+}
+
 QString TemperatureFace::number(std::optional<double> celsius) const
 {
-    return celsius ? QString::number(displayTemperature(*celsius, settings().celsius())) : QString();
+    return celsius ? QString::number(formats::wholeDegrees(*celsius, settings().celsius())) : QString();
 }
 
 } // namespace brimlight

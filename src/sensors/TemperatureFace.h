@@ -11,8 +11,6 @@ namespace brimlight {
 /// Empty at 30 degrees Celsius, full at 100.
 double temperatureFraction(double celsius);
 QColor temperatureTint(double celsius, const QColor &accent);
-/// A whole number in the wanted unit.
-int displayTemperature(double celsius, bool inCelsius);
 /// "Nominal", "Fair", "Serious" or "Critical".
 QString thermalStateText(ThermalState state);
 
@@ -38,7 +36,7 @@ public:
     bool hasCpu() const { return cpu().has_value(); }
     double fraction() const { return temperatureFraction(cpu().value_or(0)); }
     /// "57°".
-    QString cpuText() const { return hasCpu() ? number(cpu()) + QStringLiteral("°") : QString(); }
+    QString cpuText() const;
     bool hasBattery() const { return battery().has_value(); }
     /// "30".
     QString batteryText() const { return number(battery()); }

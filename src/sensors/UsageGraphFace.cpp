@@ -1,6 +1,6 @@
 #include "sensors/UsageGraphFace.h"
 
-#include "sensors/Percent.h"
+#include "core/Formats.h"
 
 namespace brimlight {
 
@@ -14,12 +14,12 @@ UsageGraphFace::UsageGraphFace(WidgetContext &context, SystemHistoryStore &histo
 
 QString UsageGraphFace::cpuText() const
 {
-    return wholePercent(m_history.snapshot().cpu);
+    return formats::percent(m_history.snapshot().cpu);
 }
 
 QString UsageGraphFace::ramText() const
 {
-    return wholePercent(m_history.snapshot().memUsed);
+    return formats::percent(m_history.snapshot().memUsed);
 }
 
 } // namespace brimlight

@@ -1,8 +1,9 @@
 #include "settings/ThemeChoices.h"
 
+#include "core/Formats.h"
+
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace brimlight {
 namespace {
@@ -25,7 +26,7 @@ constexpr std::array fields{
 
 QString percent(double fraction)
 {
-    return QStringLiteral("%1%").arg(std::lround(std::clamp(fraction, 0.0, 1.0) * 100));
+    return formats::percent(std::clamp(fraction, 0.0, 1.0));
 }
 
 } // namespace

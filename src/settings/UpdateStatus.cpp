@@ -1,9 +1,10 @@
 #include "settings/UpdateStatus.h"
 
+#include "core/Formats.h"
+
 #include <QLocale>
 
 #include <algorithm>
-#include <cmath>
 
 namespace brimlight {
 namespace {
@@ -84,7 +85,7 @@ QString UpdateStatus::detail() const
 
 QString UpdateStatus::progressText() const
 {
-    return QStringLiteral("%1%").arg(std::lround(progress() * 100));
+    return formats::percent(progress());
 }
 
 double UpdateStatus::progress() const

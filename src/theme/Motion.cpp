@@ -28,12 +28,6 @@ const QEasingCurve &easeOutCurve()
     return curve;
 }
 
-const QEasingCurve &easeInOutCurve()
-{
-    static const QEasingCurve curve = bezier({0.42, 0}, {0.58, 1});
-    return curve;
-}
-
 MotionCurve easedOut(int milliseconds)
 {
     return {milliseconds, easeOutCurve()};
@@ -73,14 +67,10 @@ Motion *Motion::create(QQmlEngine *engine, QJSEngine *)
     return new Motion(nullptr, engine);
 }
 
-QEasingCurve Motion::easeOut() const
+const QEasingCurve &Motion::easeInOut()
 {
-    return easeOutCurve();
-}
-
-QEasingCurve Motion::easeInOut() const
-{
-    return easeInOutCurve();
+    static const QEasingCurve curve = bezier({0.42, 0}, {0.58, 1});
+    return curve;
 }
 
 MotionCurve Motion::curve(Name name) const

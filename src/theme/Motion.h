@@ -60,8 +60,6 @@ class Motion : public QObject
     Q_PROPERTY(brimlight::MotionCurve fade READ fade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve hudFade READ hudFade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve change READ change NOTIFY changed)
-    Q_PROPERTY(QEasingCurve easeOut READ easeOut CONSTANT)
-    Q_PROPERTY(QEasingCurve easeInOut READ easeInOut CONSTANT)
 
 public:
     /// The spring of the panel, for who follows it step by step.
@@ -102,9 +100,8 @@ public:
     MotionCurve hudFade() const { return curve(Name::hudFade); }     ///< 0.2, the heads-up display
     MotionCurve change() const { return curve(Name::change); } ///< 0.25, what takes the place of something
 
-    /// For a movement with a duration of its own. Who uses one asks `reduced`.
-    QEasingCurve easeOut() const;
-    QEasingCurve easeInOut() const;
+    /// For a movement with a duration of its own. Who uses it asks `reduced`.
+    static const QEasingCurve &easeInOut();
 
 Q_SIGNALS:
     void changed();

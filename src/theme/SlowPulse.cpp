@@ -1,5 +1,7 @@
 #include "theme/SlowPulse.h"
 
+#include "theme/Motion.h"
+
 namespace brimlight {
 
 SlowPulse::SlowPulse(QObject *parent)
@@ -10,7 +12,7 @@ SlowPulse::SlowPulse(QObject *parent)
     connect(&m_beat, &QAbstractAnimation::currentLoopChanged, this, [this] {
         const double halves = static_cast<double>(m_beat.currentTime() % (2 * half.count())) /
                               static_cast<double>(half.count());
-        setValue(m_easing.valueForProgress(halves < 1 ? halves : 2 - halves));
+        setValue(Motion::easeInOut().valueForProgress(halves < 1 ? halves : 2 - halves));
     });
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QEasingCurve>
 #include <QObject>
 #include <QPauseAnimation>
 #include <QtQmlIntegration>
@@ -39,7 +38,6 @@ private:
     void setValue(double value);
 
     QPauseAnimation m_beat;
-    QEasingCurve m_easing{QEasingCurve::InOutQuad};
     double m_value = 0;
 };
 

@@ -1,12 +1,9 @@
 #include "theme/ThemeFile.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QLocale>
+#include "core/JsonReader.h"
+#include "core/JsonWriter.h"
 
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace brimlight {
@@ -30,82 +27,44 @@ constexpr std::array channels{Named<double ThemeColor::*>{"red", &ThemeColor::re
                               Named<double ThemeColor::*>{"blue", &ThemeColor::blue},
                               Named<double ThemeColor::*>{"opacity", &ThemeColor::opacity}};
 
-std::optional<ThemeColor> decodeColor(const QJsonValue &json)
+void write(JsonWriter &json, const ThemeColor &color)
 {
-    ThemeColor color;
-    for (const auto &[key, channel] : channels) {
-        const QJsonValue number = json[QLatin1String(key)];
-        if (!number.isDouble() || !std::isfinite(number.toDouble()))
-            return std::nullopt;
-        color.*channel = number.toDouble();
-    }
-    return color;
-}
-
-// QJsonObject sorts its keys, so the object is written by hand and only the texts are left to Qt.
-
-QByteArray encodeText(const QString &text)
-{
-    const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return list.mid(1, list.size() - 2);
-}
-
-QByteArray encodeColor(const ThemeColor &color)
-{
-    QByteArray json;
-    for (const auto &[key, channel] : channels) {
-        json += json.isEmpty() ? "{\"" : ",\"";
-        json += key;
-        json += "\":" + QByteArray::number(color.*channel, 'g', QLocale::FloatingPointShortest);
-    }
-    return json + '}';
-}
-
-bool isFinite(const ThemeColor &color)
-{
-    return std::isfinite(color.red) && std::isfinite(color.green) && std::isfinite(color.blue) &&
-           std::isfinite(color.opacity);
+    json.beginObject();
+    for (const auto &[key, channel] : channels)
+        json.member(key, color.*channel);
+    json.endObject();
 }
 
 } // namespace
 
-std::optional<Theme> decodeTheme(const QByteArray &json)
+std::optional<Theme> decodeTheme(const QByteArray &bytes)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(json);
-    if (!document.isObject())
-        return std::nullopt;
+    JsonReader json = JsonReader::fromBytes(bytes);
     Theme theme;
-    for (const auto &[key, field] : textFields) {
-        const QJsonValue text = document[QLatin1String(key)];
-        if (!text.isString())
-            return std::nullopt;
-        theme.*field = text.toString();
-    }
+    for (const auto &[key, field] : textFields)
+        theme.*field = json.text(key);
     for (const auto &[key, field] : colorFields) {
-        const std::optional<ThemeColor> color = decodeColor(document[QLatin1String(key)]);
-        if (!color)
+        JsonReader color = json.object(key);
+        for (const auto &[channel, part] : channels)
+            theme.*field.*part = color.number(channel);
+        if (!color.isValid())
             return std::nullopt;
-        theme.*field = *color;
     }
-    return theme;
+    return json.isValid() ? std::optional(theme) : std::nullopt;
 }
 
 std::optional<QByteArray> encodeTheme(const Theme &theme)
 {
-    QByteArray json;
-    for (const auto &[key, field] : textFields) {
-        json += json.isEmpty() ? "{\"" : ",\"";
-        json += key;
-        json += "\":" + encodeText(theme.*field);
-    }
+    JsonWriter json;
+    json.beginObject();
+    for (const auto &[key, field] : textFields)
+        json.member(key, theme.*field);
     for (const auto &[key, field] : colorFields) {
-        if (!isFinite(theme.*field))
-            return std::nullopt;
-        json += ",\"";
-        json += key;
-        json += "\":" + encodeColor(theme.*field);
+        json.key(key);
+        write(json, theme.*field);
     }
-    return json + '}';
+    json.endObject();
+    return json.isValid() ? std::optional(json.bytes()) : std::nullopt;
 }
 
 } // namespace brimlight

@@ -13,7 +13,7 @@ namespace brimlight {
 
 /// Absent when the bytes are no such object or a key is missing or of another type. Keys that are not known
 /// are passed over.
-std::optional<Theme> decodeTheme(const QByteArray &json);
+std::optional<Theme> decodeTheme(const QByteArray &bytes);
 
 /// Absent when a number is infinite or none, which JSON cannot say.
 std::optional<QByteArray> encodeTheme(const Theme &theme);

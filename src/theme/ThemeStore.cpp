@@ -2,7 +2,6 @@
 
 #include "platform/Log.h"
 #include "platform/UserDefaults.h"
-#include "theme/ThemeFile.h"
 
 #include <algorithm>
 
@@ -14,24 +13,28 @@ QString glassStrengthKey()
     return QStringLiteral("brimlight.glassStrength");
 }
 
-std::optional<Theme> load(WholeFile &file)
+QString logCategory()
 {
-    const std::optional<QByteArray> content = file.read();
-    if (!content)
-        return std::nullopt;
-    std::optional<Theme> theme = decodeTheme(*content);
-    if (!theme)
-        file.markUnusable();
-    return theme;
+    return QStringLiteral("Theme");
+}
+QString failure()
+{
+    return QStringLiteral("Failed to save theme: ");
+}
+
+SavedFile withFailureWords(SavedFile file)
+{
+    file.setFailureWords({logCategory(), failure()});
+    return file;
 }
 
 } // namespace
 
-ThemeStore::ThemeStore(const QString &filePath, UserDefaults &defaults, Log &log)
-    : m_file(filePath)
+ThemeStore::ThemeStore(SavedFile file, UserDefaults &defaults, Log &log)
+    : m_document(withFailureWords(std::move(file)))
     , m_defaults(defaults)
     , m_log(log)
-    , m_current(load(m_file).value_or(Theme::defaultTheme()))
+    , m_current(m_document.load().value_or(Theme::defaultTheme()))
     , m_shown(m_current)
     , m_glassStrength(defaults.read<double>(glassStrengthKey()).value_or(defaultGlassStrength))
 {
@@ -100,12 +103,8 @@ void ThemeStore::replace(ThemeColor Theme::*field, const QColor &color)
 
 void ThemeStore::save()
 {
-    const std::optional<QByteArray> content = encodeTheme(m_current);
-    if (content && m_file.write(*content))
-        return;
-    const QString reason = content ? m_file.errorString() : QStringLiteral("a colour is not a number");
-    m_log.write(LogLevel::error, QStringLiteral("Theme"),
-                QStringLiteral("Failed to save theme: %1").arg(reason));
+    if (!m_document.save(m_current))
+        m_log.write(LogLevel::error, logCategory(), failure() + QStringLiteral("a colour is not a number"));
 }
 
 } // namespace brimlight

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "platform/WholeFile.h"
+#include "core/Document.h"
 #include "theme/Motion.h"
 #include "theme/Theme.h"
+#include "theme/ThemeFile.h"
 
 #include <QObject>
 #include <QVariantAnimation>
@@ -32,10 +33,9 @@ class ThemeStore : public QObject
 public:
     static constexpr double defaultGlassStrength = 0.55;
 
-    /// `filePath` need not exist; its folder is made when it is first written.
-    ThemeStore(const QString &filePath, UserDefaults &defaults, Log &log);
+    /// The file need not exist; its folder is made when it is first written.
+    ThemeStore(SavedFile file, UserDefaults &defaults, Log &log);
 
-    const QString &filePath() const { return m_file.path(); }
     const QList<Theme> &builtIns() const { return Theme::builtIns(); }
 
     const Theme &current() const { return m_current; }
@@ -72,7 +72,7 @@ private:
     void replace(ThemeColor Theme::*field, const QColor &color);
     void save();
 
-    WholeFile m_file;
+    Document<encodeTheme, decodeTheme> m_document;
     UserDefaults &m_defaults;
     Log &m_log;
     Theme m_current;

@@ -51,13 +51,6 @@ double fractionOfPeriod(CalendarPeriod period, const QDateTime &date, Qt::DayOfW
     return std::clamp(static_cast<double>(start.msecsTo(date)) / static_cast<double>(length), 0.0, 1.0);
 }
 
-QString percentText(double fraction)
-{
-    // 0.29 is stored a little below itself.
-    constexpr double rounding = 1e-9;
-    return QStringLiteral("%1%").arg(static_cast<int>(fraction * 100 + rounding));
-}
-
 double DayProgressFace::fraction(CalendarPeriod period) const
 {
     return fractionOfPeriod(period, now().toLocalTime(), QLocale().firstDayOfWeek());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Formats.h"
 #include "grid/WidgetLogic.h"
 
 namespace brimlight {
@@ -9,8 +10,6 @@ enum class CalendarPeriod { day, week, month };
 /// How much of the period that contains `date` has passed, from 0 to 1, in the date's own time zone; 0 for an
 /// invalid date. Weeks begin with `firstDayOfWeek`.
 double fractionOfPeriod(CalendarPeriod period, const QDateTime &date, Qt::DayOfWeek firstDayOfWeek);
-/// "37%".
-QString percentText(double fraction);
 
 /// What the day progress widget shows.
 class DayProgressFace : public brimlight::WidgetLogic
@@ -31,9 +30,9 @@ public:
     double day() const { return fraction(CalendarPeriod::day); }
     double week() const { return fraction(CalendarPeriod::week); }
     double month() const { return fraction(CalendarPeriod::month); }
-    QString dayText() const { return percentText(day()); }
-    QString weekText() const { return percentText(week()); }
-    QString monthText() const { return percentText(month()); }
+    QString dayText() const { return formats::percentCut(day()); }
+    QString weekText() const { return formats::percentCut(week()); }
+    QString monthText() const { return formats::percentCut(month()); }
 
 private:
     double fraction(CalendarPeriod period) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/TraceLog.h"
+#include "fakes/DirectFileWriter.h"
 #include "fakes/FakeAudioServer.h"
 #include "fakes/FakeDisplayBrightness.h"
 #include "fakes/FakeHostStatistics.h"
@@ -23,6 +24,7 @@ struct FakePlatform
     const QTemporaryDir support;
     FakeFolders folders;
     RecordingLog recorded;
+    DirectFileWriter files{&recorded};
     FakeScreens screens;
     FakePointer pointer;
     FakeSignals unixSignals;
@@ -40,9 +42,10 @@ struct FakePlatform
     FakeScriptHost scripts;
     FakePowerAssertions powerAssertions;
     FakeSounds sounds;
-    Platform platform{scheduler,  defaults,   folders,    recorded,     screens, pointer,         unixSignals,
-                      appearance, statistics, power,      machine,      smc,     thermal,         loginItem,
-                      statusItem, audio,      brightness, doNotDisturb, scripts, powerAssertions, sounds};
+    Platform platform{scheduler,    defaults,    files,           folders,    recorded, screens,
+                      pointer,      unixSignals, appearance,      statistics, power,    machine,
+                      smc,          thermal,     loginItem,       statusItem, audio,    brightness,
+                      doNotDisturb, scripts,     powerAssertions, sounds};
     TraceLog log{recorded, {}};
 };
 

@@ -1,6 +1,7 @@
 // Any bytes at all as a layout file: what decodes is written and read the same, a repair leaves no overlap,
 // and neither do the store's operations.
 
+#include "fakes/DirectFileWriter.h"
 #include "grid/GridLayoutCodec.h"
 #include "grid/GridPlacement.h"
 #include "grid/GridStore.h"
@@ -55,7 +56,8 @@ void operate(const GridLayout &layout, const QByteArray &bytes)
                                                        .allowedSizes = {WidgetSize::wide},
                                                        .defaultSize = WidgetSize::wide}}});
     // Nothing can be written there, so nothing is.
-    GridStore store(QStringLiteral("/proc/brimlight/grid.json"), widgets);
+    test::DirectFileWriter files;
+    GridStore store({QStringLiteral("/proc/brimlight/grid.json"), files}, widgets);
     store.setLayout(layout);
     for (const char c : bytes.right(16)) {
         const auto byte = static_cast<unsigned char>(c);

@@ -1,5 +1,6 @@
 #include "grid/GridDrag.h"
 
+#include "fakes/DirectFileWriter.h"
 #include "grid/GridBackdrop.h"
 #include "grid/GridLayoutCodec.h"
 #include "grid/GridStore.h"
@@ -31,7 +32,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(encodeLayout(layout));
         file.close();
-        grid.emplace(path, registry);
+        grid.emplace(SavedFile(path, files), registry);
         drag.emplace(*grid, state);
     }
     static QString text(const WidgetInstance &instance) { return instance.id.toString(QUuid::WithoutBraces); }
@@ -41,6 +42,7 @@ protected:
     }
 
     QTemporaryDir dir;
+    DirectFileWriter files;
     WidgetRegistry registry{{}};
     GridLayout layout{.instances = {}, .pageCount = 1};
     GridViewState state;

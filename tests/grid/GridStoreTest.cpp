@@ -1,5 +1,6 @@
 #include "grid/GridStore.h"
 
+#include "fakes/DirectFileWriter.h"
 #include "grid/GridLayoutCodec.h"
 #include "grid/WidgetRegistry.h"
 
@@ -48,7 +49,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
-    void start() { store.emplace(path, widgets); }
+    void start() { store.emplace(SavedFile(path, files), widgets); }
     void startWith(const QList<WidgetInstance> &instances, qint64 pageCount = 1)
     {
         put(encodeLayout({.instances = instances, .pageCount = pageCount}));
@@ -83,6 +84,7 @@ protected:
     const QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("grid.json"));
     const WidgetRegistry widgets{kinds()};
+    DirectFileWriter files;
     std::optional<GridStore> store;
 };
 
@@ -164,7 +166,7 @@ TEST_F(GridStoreLoad, AFolderInPlaceOfTheFileGivesTheDefaultLayout)
 
 TEST_F(GridStoreLoad, AFileThatCannotBeWrittenLeavesTheChangeInMemory)
 {
-    GridStore readOnly(QStringLiteral("/proc/brimlight/grid.json"), widgets);
+    GridStore readOnly({QStringLiteral("/proc/brimlight/grid.json"), files}, widgets);
     EXPECT_EQ(readOnly.addPage(), 1);
     readOnly.add(QStringLiteral("huge"), 1);
     EXPECT_EQ(readOnly.layout().pageCount, 2);
@@ -184,7 +186,7 @@ TEST_F(GridStoreLoad, AFailedWriteIsMadeGoodByTheNextChange)
 
 TEST_F(GridStoreLoad, AMissingFolderIsMadeByTheFirstChange)
 {
-    GridStore nested(dir.filePath(QStringLiteral("a/b/grid.json")), widgets);
+    GridStore nested({dir.filePath(QStringLiteral("a/b/grid.json")), files}, widgets);
     nested.addPage();
     EXPECT_TRUE(QFile::exists(dir.filePath(QStringLiteral("a/b/grid.json"))));
 }

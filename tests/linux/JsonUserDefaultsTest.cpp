@@ -1,6 +1,7 @@
 #include "platform/linux/files/JsonUserDefaults.h"
 
 #include "core/AppSettings.h"
+#include "fakes/DirectFileWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -35,6 +36,10 @@ protected:
         file.write(bytes);
     }
 
+    /// What a start of the program finds.
+    JsonUserDefaults stored() { return JsonUserDefaults(SavedFile(path, writer)); }
+
+    DirectFileWriter writer;
     QTemporaryDir dir;
     QString path = dir.filePath(QStringLiteral("defaults.json"));
 };
@@ -45,15 +50,15 @@ TEST_F(Defaults, EveryTypeComesBackAsItself)
                                             QByteArray("\0\xff\x7f", 3),
                                             QStringList{QStringLiteral("a"), QString()}};
     for (const UserDefaults::Value &value : values) {
-        JsonUserDefaults(path).setValue(key(), value);
-        EXPECT_EQ(JsonUserDefaults(path).value(key()), value);
+        stored().setValue(key(), value);
+        EXPECT_EQ(stored().value(key()), value);
     }
 }
 
 TEST_F(Defaults, TypesAreAskedNeverGuessed)
 {
     put(R"({"brimlight.key": 1})");
-    const JsonUserDefaults defaults(path);
+    const JsonUserDefaults defaults = stored();
     EXPECT_EQ(defaults.read<double>(key()), 1.0) << "a whole number is a number";
     EXPECT_FALSE(defaults.read<bool>(key()));
     EXPECT_FALSE(defaults.read<QString>(key()));
@@ -63,14 +68,14 @@ TEST_F(Defaults, TypesAreAskedNeverGuessed)
 TEST_F(Defaults, AWholeNumberServesAsTheHoverDelay)
 {
     put(R"({"brimlight.hoverDelay": 1})");
-    JsonUserDefaults defaults(path);
+    JsonUserDefaults defaults = stored();
     EXPECT_EQ(AppSettings(defaults).hoverDelay(), 1.0);
 }
 
 TEST_F(Defaults, AMissingFileIsEmptyAndItsFolderIsMade)
 {
     const QString deep = dir.filePath(QStringLiteral("a/b/defaults.json"));
-    JsonUserDefaults defaults(deep);
+    JsonUserDefaults defaults(SavedFile(deep, writer));
     EXPECT_FALSE(defaults.value(key()));
     EXPECT_FALSE(QFile::exists(deep));
     defaults.setValue(key(), true);
@@ -79,17 +84,17 @@ TEST_F(Defaults, AMissingFileIsEmptyAndItsFolderIsMade)
 
 TEST_F(Defaults, RemovedIsAbsent)
 {
-    JsonUserDefaults defaults(path);
+    JsonUserDefaults defaults = stored();
     defaults.setValue(key(), true);
     defaults.remove(key());
     EXPECT_FALSE(defaults.value(key()));
-    EXPECT_FALSE(JsonUserDefaults(path).value(key()));
+    EXPECT_FALSE(stored().value(key()));
 }
 
 TEST_F(Defaults, MembersOfOtherShapesCountAsAbsentAndAreCarriedAlong)
 {
     put(R"({"a": null, "b": {"data": 5}, "c": ["x", 1], "d": {"data": "!"}, "e": {"x": {"y": []}}})");
-    JsonUserDefaults defaults(path);
+    JsonUserDefaults defaults = stored();
     for (const char *name : {"a", "b", "c", "d", "e"})
         EXPECT_FALSE(defaults.value(QLatin1String(name))) << name;
     defaults.setValue(key(), true);
@@ -106,7 +111,7 @@ class UnusableDefaults : public Defaults, public testing::WithParamInterface<con
 TEST_P(UnusableDefaults, GiveTheDefaultsAndAreKeptAsideBeforeTheFirstWrite)
 {
     put(GetParam());
-    JsonUserDefaults defaults(path);
+    JsonUserDefaults defaults = stored();
     {
         const AppSettings settings(defaults);
         EXPECT_EQ(settings.hoverDelay(), 0.5);
@@ -115,7 +120,7 @@ TEST_P(UnusableDefaults, GiveTheDefaultsAndAreKeptAsideBeforeTheFirstWrite)
     EXPECT_EQ(content(), GetParam()) << "reading changes nothing";
     defaults.setValue(key(), true);
     EXPECT_EQ(content(QStringLiteral("defaults.json.unreadable-1")), GetParam());
-    EXPECT_EQ(JsonUserDefaults(path).read<bool>(key()), true);
+    EXPECT_EQ(stored().read<bool>(key()), true);
 }
 
 INSTANTIATE_TEST_SUITE_P(Contents, UnusableDefaults,
@@ -125,16 +130,16 @@ INSTANTIATE_TEST_SUITE_P(Contents, UnusableDefaults,
 TEST_F(Defaults, AnUnreadableFileIsKeptAside)
 {
     QDir().mkpath(path + QStringLiteral("/inside"));
-    JsonUserDefaults defaults(path);
+    JsonUserDefaults defaults = stored();
     EXPECT_FALSE(defaults.value(key()));
     defaults.setValue(key(), true);
-    EXPECT_EQ(JsonUserDefaults(path).read<bool>(key()), true);
+    EXPECT_EQ(stored().read<bool>(key()), true);
     EXPECT_TRUE(QDir(path + QStringLiteral(".unreadable-1/inside")).exists());
 }
 
 TEST_F(Defaults, AFailedWriteKeepsTheValueForThisRun)
 {
-    JsonUserDefaults defaults(QStringLiteral("/proc/brimlight/defaults.json"));
+    JsonUserDefaults defaults(SavedFile(QStringLiteral("/proc/brimlight/defaults.json"), writer));
     defaults.setValue(key(), 2.5);
     EXPECT_EQ(defaults.read<double>(key()), 2.5);
 }

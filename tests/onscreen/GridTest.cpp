@@ -128,7 +128,7 @@ TEST_P(Arranging, FromTheFirstStartToTheNext)
 
     // A page more, which is shown at once; back to the first.
     ASSERT_TRUE(see(around(cell(0, 0)), [&] { hand.clickAt(inPanel(123, 16)); }));
-    EXPECT_EQ(layout().value(u"pageCount"_s), 2);
+    EXPECT_TRUE(waitUntil([&] { return layout().value(u"pageCount"_s) == 2; }));
     ASSERT_TRUE(see(around(cell(0, 0)), [&] { hand.clickAt(inPanel(97, 16)); }));
 
     const QByteArray stored = bytes(storePath());

@@ -63,6 +63,17 @@ TEST_F(Process, SecondSignalKeepsItsDefaultEffectOtherwise)
     expectEndBySilently(SIGUSR2);
 }
 
+TEST_F(Process, TheEndOfASessionEndsItAsItsMenuDoes)
+{
+    startSilently();
+    panel->raiseSignal(SIGTERM);
+    ASSERT_TRUE(panel->waitForExit());
+    EXPECT_EQ(panel->process().exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(panel->process().exitCode(), 0);
+    EXPECT_EQ(panel->lines(), QStringList());
+    panel.reset();
+}
+
 TEST_F(Process, SaysNothingUnlessDebugging)
 {
     startSilently();

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,6 +27,30 @@ void put(const QString &path, const QByteArray &bytes)
     file.write(bytes);
 }
 
+/// As if the disk were full: a file may not grow beyond this. Also for root.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limited{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limited);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
+private:
+    rlimit m_before = {};
+    // Else the process would be killed instead of getting an error.
+    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
 } // namespace
 
 class WholeFiles : public testing::Test
@@ -32,7 +58,8 @@ class WholeFiles : public testing::Test
 protected:
     QStringList names() const
     {
-        return QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
+        return QDir(dir.path())
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System | QDir::Hidden);
     }
 
     QTemporaryDir dir;
@@ -111,6 +138,46 @@ TEST_F(WholeFiles, ALinkKeepsBeingALink)
     EXPECT_TRUE(file.write("new"));
     EXPECT_EQ(content(target), "new");
     EXPECT_TRUE(QFileInfo(path).isSymLink());
+}
+
+TEST_F(WholeFiles, PermissionsStayAndANewFileIsTheUsersAlone)
+{
+    WholeFile file(path);
+    EXPECT_TRUE(file.write("one"));
+    const QFile::Permissions own = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(QFile::permissions(path), own);
+    QFile::setPermissions(path, own | QFile::ReadGroup);
+    EXPECT_TRUE(file.write("two"));
+    EXPECT_EQ(QFile::permissions(path), own | QFile::ReadGroup);
+}
+
+TEST_F(WholeFiles, TheOldContentIsThereUntilTheNewOneIsOnTheDisk)
+{
+    put(path, "old");
+    WholeFile file(path);
+    QByteArray meanwhile;
+    EXPECT_TRUE(file.write("new", [&](int descriptor) {
+        meanwhile = content(path);
+        struct stat status = {};
+        EXPECT_EQ(fstat(descriptor, &status), 0);
+        EXPECT_EQ(status.st_size, 3) << "all of it can be waited for";
+    }));
+    EXPECT_EQ(meanwhile, "old");
+    EXPECT_EQ(content(path), "new");
+}
+
+TEST_F(WholeFiles, ADiskThatIsFullLeavesTheOldContentAndNoOtherFile)
+{
+    put(path, "old");
+    WholeFile file(path);
+    {
+        const FileSizeLimit limit(1000);
+        EXPECT_FALSE(file.write(QByteArray(5000, 'x')));
+    }
+    EXPECT_FALSE(file.errorString().isEmpty());
+    EXPECT_EQ(content(path), "old");
+    EXPECT_EQ(names(), QStringList{QStringLiteral("store.json")});
+    EXPECT_TRUE(file.write(QByteArray(5000, 'x'))) << "there is room again";
 }
 
 TEST_F(WholeFiles, WhatCannotBeKeptAsideIsNotOverwritten)

@@ -164,13 +164,6 @@ TEST(Disk, AtNinetyTwoPercentItIsRed)
     EXPECT_EQ(diskTint(0.92, accent), signalColors::red);
 }
 
-TEST(Disk, FromAHundredGigabytesUpThereIsNoDecimal)
-{
-    EXPECT_EQ(gb(100'000'000'000), QStringLiteral("100 GB"));
-    EXPECT_EQ(gb(99'960'000'000), QStringLiteral("100.0 GB"));
-    EXPECT_EQ(gb(0), QStringLiteral("0.0 GB"));
-}
-
 TEST_F(SystemWidgets, DiskShowsTheRootVolume)
 {
     statistics.capacity = VolumeCapacity{.total = 1'000'000'000'000, .available = 250'000'000'000};
@@ -178,17 +171,6 @@ TEST_F(SystemWidgets, DiskShowsTheRootVolume)
     EXPECT_EQ(face.percent(), QStringLiteral("75%"));
     EXPECT_EQ(face.freeText(), QStringLiteral("250 GB free"));
     EXPECT_EQ(statistics.volumesAsked, QStringList{QStringLiteral("/")});
-}
-
-TEST(NetworkRate, UnitsChangeAtTheUnroundedLimits)
-{
-    EXPECT_EQ(rateText(999.6), QStringLiteral("1000 B/s"));
-    EXPECT_EQ(rateText(1000), QStringLiteral("1 KB/s"));
-    EXPECT_EQ(rateText(999'999), QStringLiteral("1000 KB/s"));
-    EXPECT_EQ(rateText(1e6), QStringLiteral("1.0 MB/s"));
-    EXPECT_EQ(compactRate(999.4), QStringLiteral("999"));
-    EXPECT_EQ(compactRate(12'345), QStringLiteral("12K"));
-    EXPECT_EQ(compactRate(3.44e6), QStringLiteral("3.4M"));
 }
 
 TEST_F(SystemWidgets, NetworkKeepsTwentyFourValues)
@@ -254,16 +236,6 @@ TEST_F(SystemWidgets, SystemStartsWithoutALoadAndMeasuresItsOwnInterval)
     EXPECT_EQ(face.cpuTint(), signalColors::orange);
 }
 
-TEST(Uptime, IsToldInItsTwoLargestUnits)
-{
-    EXPECT_EQ(uptimeString(59), QStringLiteral("0m"));
-    EXPECT_EQ(uptimeString(3599), QStringLiteral("59m"));
-    EXPECT_EQ(uptimeString(3600), QStringLiteral("1h 0m"));
-    EXPECT_EQ(uptimeString(86399), QStringLiteral("23h 59m"));
-    EXPECT_EQ(uptimeString(86400), QStringLiteral("1d 0h"));
-    EXPECT_EQ(uptimeString(273600), QStringLiteral("3d 4h"));
-}
-
 TEST_F(SystemWidgets, SystemInfoHasFourRows)
 {
     statistics.seconds = 7260;
@@ -300,13 +272,6 @@ TEST(Temperature, TheRingIsEmptyAtThirtyAndFullAtAHundred)
     EXPECT_EQ(temperatureFraction(12), 0);
     EXPECT_EQ(temperatureFraction(65), 0.5);
     EXPECT_EQ(temperatureFraction(101), 1);
-}
-
-TEST(Temperature, IsRoundedInTheUnitThatIsShown)
-{
-    EXPECT_EQ(displayTemperature(54.5, true), 55);
-    EXPECT_EQ(displayTemperature(37, false), 99);
-    EXPECT_EQ(displayTemperature(-40, false), -40);
 }
 
 TEST_F(SystemWidgets, ABatteryValueAloneShowsTheFallback)

@@ -1,3 +1,4 @@
+#include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
 #include "settings/ColorDraft.h"
 #include "settings/SettingsChoices.h"
@@ -29,7 +30,8 @@ protected:
     QTemporaryDir dir;
     MemoryDefaults defaults;
     RecordingLog log;
-    ThemeStore theme{dir.filePath(QStringLiteral("theme.json")), defaults, log};
+    DirectFileWriter files;
+    ThemeStore theme{{dir.filePath(QStringLiteral("theme.json")), files}, defaults, log};
     ThemeChoices choices;
 };
 

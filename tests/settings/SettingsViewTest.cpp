@@ -1,6 +1,7 @@
 #include "core/AppSettings.h"
 #include "core/LoginItemService.h"
 #include "core/UiTranslator.h"
+#include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
 #include "fakes/HandDriver.h"
 #include "fakes/Scene.h"
@@ -99,7 +100,8 @@ protected:
     Motion motion{&appearance};
     AppSettings settings{defaults};
     UiTranslator translator{settings};
-    ThemeStore theme{dir.filePath(QStringLiteral("theme.json")), defaults, log};
+    DirectFileWriter files;
+    ThemeStore theme{{dir.filePath(QStringLiteral("theme.json")), files}, defaults, log};
     LoginItemService loginItem{item, log};
     UpdateService updater{defaults};
     QQuickView view;

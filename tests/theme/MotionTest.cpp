@@ -1,5 +1,6 @@
 #include "theme/Motion.h"
 
+#include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
 #include "theme/ThemeStore.h"
 
@@ -82,7 +83,6 @@ TEST(Motion, EaseOutsTakeTheirTimeAndSlowDown)
     EXPECT_EQ(motion.change().duration, 250);
     EXPECT_GT(motion.change().easing.valueForProgress(0.5), 0.6);
     EXPECT_NEAR(motion.easeInOut().valueForProgress(0.5), 0.5, 1e-3);
-    EXPECT_NEAR(motion.easeOut().valueForProgress(1), 1, 1e-6);
 }
 
 TEST(Motion, NothingIsReducedWithoutAnAppearance)
@@ -193,7 +193,8 @@ TEST_F(MotionQml, AViewReadsAndChangesTheTheme)
     const QTemporaryDir folder;
     MemoryDefaults defaults;
     RecordingLog log;
-    ThemeStore store(folder.filePath(QStringLiteral("theme.json")), defaults, log);
+    DirectFileWriter files;
+    ThemeStore store({folder.filePath(QStringLiteral("theme.json")), files}, defaults, log);
     QJSEngine::setObjectOwnership(&store, QJSEngine::CppOwnership);
     engine.rootContext()->setContextProperty(QStringLiteral("testStore"), &store);
     const auto item = make(R"(Item {

@@ -1,5 +1,6 @@
 #include "theme/ThemeStore.h"
 
+#include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
 #include "fakes/HandDriver.h"
 
@@ -29,7 +30,7 @@ const QByteArray oceanJson =
 class ThemeStoreTest : public testing::Test
 {
 protected:
-    void start() { store.emplace(path, defaults, log); }
+    void start() { store.emplace(SavedFile(path, writer), defaults, log); }
 
     void write(const QByteArray &bytes) const
     {
@@ -48,6 +49,7 @@ protected:
     QString path = folder.filePath(QStringLiteral("theme.json"));
     MemoryDefaults defaults;
     RecordingLog log;
+    DirectFileWriter writer{&log};
     std::optional<ThemeStore> store;
 };
 
@@ -66,7 +68,6 @@ TEST_F(ThemeStoreTest, FirstStartIsMidnightAndWritesNothing)
     EXPECT_EQ(store->current(), Theme::midnight());
     EXPECT_EQ(store->glassStrength(), 0.55);
     EXPECT_EQ(store->builtIns(), Theme::builtIns());
-    EXPECT_EQ(store->filePath(), path);
     EXPECT_TRUE(files().isEmpty());
     EXPECT_TRUE(defaults.writes.isEmpty());
     store->selectPalette(QStringLiteral("ocean"));

@@ -161,13 +161,6 @@ TEST(DayProgress, WithoutADateTheFractionIsZero)
     EXPECT_EQ(fractionOfPeriod(CalendarPeriod::day, QDateTime(), Qt::Monday), 0);
 }
 
-TEST(DayProgress, PercentagesAreWholeNumbers)
-{
-    EXPECT_EQ(percentText(0), QStringLiteral("0%"));
-    EXPECT_EQ(percentText(0.379), QStringLiteral("37%"));
-    EXPECT_EQ(percentText(1), QStringLiteral("100%"));
-}
-
 TEST(Calendar, AMonthThatBeginsOnASundayLeavesSixCellsWhenMondayIsFirst)
 {
     const QDate sunday(2026, 3, 1);

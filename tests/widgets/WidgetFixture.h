@@ -3,6 +3,7 @@
 #include "core/AppSettings.h"
 #include "core/TickCoordinator.h"
 #include "core/TraceLog.h"
+#include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
 #include "grid/GridStore.h"
 #include "grid/WidgetCatalog.h"
@@ -33,8 +34,9 @@ protected:
     RecordingLog recorded;
     TraceLog log{recorded, {}};
     WidgetRegistry registry;
-    GridStore grid{dir.filePath(QStringLiteral("grid.json")), registry};
-    ThemeStore theme{dir.filePath(QStringLiteral("theme.json")), defaults, recorded};
+    DirectFileWriter files;
+    GridStore grid{{dir.filePath(QStringLiteral("grid.json")), files}, registry};
+    ThemeStore theme{{dir.filePath(QStringLiteral("theme.json")), files}, defaults, recorded};
     AppSettings settings{defaults};
     TickCoordinator ticker{scheduler, log};
     WidgetEnvironment environment{registry, grid, theme, settings, ticker};

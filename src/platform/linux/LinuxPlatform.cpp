@@ -7,6 +7,7 @@
 #include "platform/linux/dbus/StatusNotifierItem.h"
 #include "platform/linux/desktop/LinuxDoNotDisturb.h"
 #include "platform/linux/desktop/SystemOperations.h"
+#include "platform/linux/files/BackgroundFileWriter.h"
 #include "platform/linux/files/JsonUserDefaults.h"
 #include "platform/linux/files/XdgAutostart.h"
 #include "platform/linux/files/XdgFolders.h"
@@ -66,8 +67,9 @@ struct LinuxPlatform::Backends
     std::unique_ptr<X11Connection> x11 = X11Connection::ofApplication();
     QtScheduler scheduler;
     XdgFolders folders;
-    JsonUserDefaults defaults{folders.userDefaultsFile()};
     JournalLog log;
+    BackgroundFileWriter files{log};
+    JsonUserDefaults defaults{SavedFile(folders.userDefaultsFile(), files)};
     QtScreens screens{thisMachinesPanel()};
     X11Pointer pointer{x11.get()};
     PipeUnixSignals unixSignals;
@@ -122,10 +124,10 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,   b.defaults,        b.folders,    b.log,   b.screens,    b.pointer,
-            b.unixSignals, b.appearance,      b.statistics, b.power, b.machine,    b.smc,
-            b.thermal,     b.loginItem,       b.statusItem, b.audio, b.brightness, b.doNotDisturb,
-            b.scripts,     b.powerAssertions, b.sounds};
+    return {b.scheduler,    b.defaults,    b.files,           b.folders,    b.log,   b.screens,
+            b.pointer,      b.unixSignals, b.appearance,      b.statistics, b.power, b.machine,
+            b.smc,          b.thermal,     b.loginItem,       b.statusItem, b.audio, b.brightness,
+            b.doNotDisturb, b.scripts,     b.powerAssertions, b.sounds};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

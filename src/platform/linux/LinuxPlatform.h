@@ -9,7 +9,8 @@ class QWindow;
 
 namespace brimlight {
 
-/// The real backends of all ports. Built once, after the application object.
+/// The real backends of all ports. Built once, after the application object. Its end waits until every file is
+/// written.
 class LinuxPlatform
 {
 public:

@@ -68,8 +68,8 @@ struct Encode
 
 } // namespace
 
-JsonUserDefaults::JsonUserDefaults(const QString &path)
-    : m_file(path)
+JsonUserDefaults::JsonUserDefaults(SavedFile file)
+    : m_file(std::move(file))
 {
     const auto content = m_file.read();
     if (!content)
@@ -100,7 +100,6 @@ void JsonUserDefaults::remove(const QString &key)
 
 void JsonUserDefaults::save()
 {
-    // A failed write is not reported: the values hold for this run and the next assignment tries again.
     m_file.write(QJsonDocument(m_values).toJson());
 }
 

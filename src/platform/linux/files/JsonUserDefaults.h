@@ -1,13 +1,14 @@
 #pragma once
 
+#include "platform/SavedFile.h"
 #include "platform/UserDefaults.h"
-#include "platform/WholeFile.h"
 
 #include <QJsonObject>
 
 namespace brimlight {
 
-/// User defaults in one JSON object, rewritten whole at every assignment.
+/// User defaults in one JSON object, rewritten whole at every assignment. A value that cannot be written
+/// holds for this run, and the next assignment tries again.
 ///
 /// Booleans, numbers, texts and lists of texts are the JSON values of that name; data is an object with the
 /// one key "data" and its bytes in Base64. A member of any other shape counts as absent and is carried along
@@ -15,7 +16,7 @@ namespace brimlight {
 class JsonUserDefaults : public UserDefaults
 {
 public:
-    explicit JsonUserDefaults(const QString &path);
+    explicit JsonUserDefaults(SavedFile file);
 
     std::optional<Value> value(const QString &key) const override;
     void setValue(const QString &key, const Value &value) override;
@@ -24,7 +25,7 @@ public:
 private:
     void save();
 
-    WholeFile m_file;
+    SavedFile m_file;
     QJsonObject m_values;
 };
 
