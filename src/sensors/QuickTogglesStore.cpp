@@ -114,6 +114,7 @@ void QuickTogglesStore::setCaffeineActive(bool active)
 {
     m_caffeineActive = active;
     Q_EMIT caffeineActiveChanged();
+    Q_EMIT obstaclesChanged();
 }
 
 void QuickTogglesStore::setDarkModeActive(bool active)

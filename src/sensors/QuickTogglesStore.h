@@ -36,7 +36,8 @@ public:
     bool mutedActive() const { return m_mutedActive; }
 
     /// Why a switch does not work, as a key of the translations; empty while it works or is not known.
-    QString caffeineObstacle() const { return reason(m_caffeineObstacle); }
+    /// What is held works.
+    QString caffeineObstacle() const { return m_caffeineActive ? QString() : reason(m_caffeineObstacle); }
     QString darkModeObstacle() const { return reason(m_darkModeObstacle); }
     QString muteObstacle() const { return reason(m_muteObstacle); }
     QString trashObstacle() const { return reason(m_trashObstacle); }

@@ -223,9 +223,11 @@ TEST_F(QuickTogglesStoreTest, CaffeineThatIsHeldCanBeLetGoWhateverIsInTheWay)
     assertions.obstacle = Obstacle::nothingKeepsAwake;
     store->updateStates();
     assertions.answerChecks();
+    EXPECT_EQ(store->caffeineObstacle(), QString());
     store->toggleCaffeine();
     EXPECT_FALSE(store->caffeineActive());
     EXPECT_EQ(assertions.released.size(), 1U);
+    EXPECT_NE(store->caffeineObstacle(), QString());
 }
 
 TEST_F(QuickTogglesStoreTest, AReplyAfterItsEndIsNobodys)
