@@ -125,6 +125,17 @@ constexpr Row panelRows[] = {
     {{u"Opacity", u"Deckkraft", u"Opacité", u"Opacidad", u"Opacità"}},
     {{u"Hex value", u"Hexwert", u"Valeur hexadécimale", u"Valor hexadecimal", u"Valore esadecimale"}},
 };
+
+// Why a switch of the system does not work.
+constexpr Row obstacleRows[] = {
+    {{u"This switch is not supported here.", u"Dieser Schalter wird hier nicht unterstützt.", u"Ce réglage n'est pas disponible ici.", u"Este interruptor no es compatible aquí.", u"Questo interruttore non è supportato qui."}},
+    {{u"No audio output was found.", u"Keine Audioausgabe gefunden.", u"Aucune sortie audio trouvée.", u"No se encontró ninguna salida de audio.", u"Nessuna uscita audio trovata."}},
+    {{u"This desktop has no dark mode to switch.", u"Dieser Desktop hat keinen umschaltbaren Dunkelmodus.", u"Ce bureau n'a pas de mode sombre à activer.", u"Este escritorio no tiene un modo oscuro que cambiar.", u"Questo desktop non ha una modalità scura da attivare."}},
+    {{u"Dark mode is locked by the administrator.", u"Der Dunkelmodus ist vom Administrator gesperrt.", u"Le mode sombre est verrouillé par l'administrateur.", u"El administrador ha bloqueado el modo oscuro.", u"La modalità scura è bloccata dall'amministratore."}},
+    {{u"Plasma's color scheme tool is not installed.", u"Plasmas Werkzeug für Farbschemata ist nicht installiert.", u"L'outil de Plasma pour les jeux de couleurs n'est pas installé.", u"La herramienta de esquemas de color de Plasma no está instalada.", u"Lo strumento di Plasma per gli schemi di colore non è installato."}},
+    {{u"There is no trash yet.", u"Es gibt noch keinen Papierkorb.", u"Il n'y a pas encore de corbeille.", u"Aún no hay papelera.", u"Non c'è ancora un cestino."}},
+    {{u"Nothing here can keep the display awake.", u"Nichts kann hier den Bildschirm wach halten.", u"Rien ici ne peut garder l'écran allumé.", u"Nada aquí puede mantener la pantalla encendida.", u"Nulla qui può tenere acceso lo schermo."}},
+};
 // clang-format on
 
 QString text(const char16_t *literal)
@@ -139,6 +150,8 @@ const QHash<QString, const Row *> &rowsByKey()
         for (const Row &row : rows)
             hash.insert(text(row.texts.front()), &row);
         for (const Row &row : panelRows)
+            hash.insert(text(row.texts.front()), &row);
+        for (const Row &row : obstacleRows)
             hash.insert(text(row.texts.front()), &row);
         return hash;
     }();

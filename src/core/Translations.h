@@ -19,8 +19,8 @@ std::optional<AppLanguage> languageFromRawValue(const QString &raw);
 /// The language's name for itself.
 QString label(AppLanguage language);
 
-/// The keys of the table in its order, without those that only the settings panel uses. A key is the English
-/// text itself.
+/// The keys of the table in its order, without those of the settings panel and of the system's switches. A
+/// key is the English text itself.
 QStringList translationKeys();
 
 /// The text of `key` in `language`; `key` itself when it is not translated.

@@ -8,12 +8,14 @@ Rectangle {
     required property string text
     required property bool shown
     required property theme colors
+    // Longer texts are broken into lines.
+    property real maximumWidth: Infinity
 
     visible: opacity > 0
     opacity: timer.due && shown ? 1 : 0
     z: 10
-    width: label.implicitWidth + 12
-    height: label.implicitHeight + 6
+    width: label.width + 12
+    height: label.height + 6
     radius: 5
     color: Qt.rgba(0.12, 0.12, 0.14, 0.98)
     border.color: Qt.rgba(1, 1, 1, 0.14)
@@ -22,6 +24,9 @@ Rectangle {
         id: label
 
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, root.maximumWidth - 12)
+        wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignHCenter
         text: root.text
         color: root.colors.textPrimary
         font.family: Fonts.rounded

@@ -43,6 +43,8 @@ Item {
     y: frame.y
     width: frame.width
     height: frame.height + (flipped && isOneRow ? 110 : 0)
+    // What it shows beside itself, such as the text of a tool tip, is above its neighbours.
+    z: hover.hovered ? 1 : 0
     opacity: entrance
     visible: entrance > 0
     enabled: live

@@ -6,7 +6,9 @@ SystemStatusMonitor::SystemStatusMonitor(AudioServer &audio, const DoNotDisturb 
                                          Scheduler &scheduler)
     : m_doNotDisturb(doNotDisturb)
 {
-    const auto take = [this](const AudioDeviceState &state) { setMuted(state.isMuted); };
+    const auto take = [this](const std::optional<AudioDeviceState> &state) {
+        setMuted(state && state->isMuted);
+    };
     m_microphone = audio.watch(AudioDirection::input, take, take);
     updateDND();
     // As with the tick, a fifth of the period as tolerance lets the system share wake-ups.

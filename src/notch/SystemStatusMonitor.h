@@ -27,7 +27,7 @@ public:
 
     SystemStatusMonitor(AudioServer &audio, const DoNotDisturb &doNotDisturb, Scheduler &scheduler);
 
-    /// The microphone that was the default one when it was found is muted. False without one.
+    /// The microphone that is the default one at the time is muted. False without one.
     bool isMuted() const { return m_isMuted; }
     static QColor mutedColor() { return signalColors::orange; }
     bool isDND() const { return m_isDND; }

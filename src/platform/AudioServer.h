@@ -36,13 +36,13 @@ class AudioServer
 public:
     virtual ~AudioServer() = default;
 
-    /// Follows one device: the one that is the default of its direction when the server answers, or the first
-    /// to become it where there is none. A default chosen later is not followed; a server that comes back is
-    /// asked for its default anew. `known` is called with what the device is found at, `changed` whenever its
-    /// volume or mute has changed since. Neither is called without a server or a device. The watch ends
-    /// before the server object does.
+    /// Follows the default device of a direction, whichever that is: another one chosen, plugged in or taken
+    /// out, or one that changes its socket. `known` is called with what the device is at each time it becomes
+    /// the followed one, and absent when the last one is gone; `changed` when the volume or the mute of the
+    /// followed one has changed since. A change of device is never a change of its volume. Neither is called
+    /// before there was a server with a device. The watch ends before the server object does.
     virtual std::unique_ptr<AudioWatch> watch(AudioDirection direction,
-                                              std::function<void(AudioDeviceState)> known,
+                                              std::function<void(std::optional<AudioDeviceState>)> known,
                                               std::function<void(AudioDeviceState)> changed) = 0;
 
     /// Whether the default output of now is muted; absent without a server or a device. Not called back when

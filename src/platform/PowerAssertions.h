@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Obstacle.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -21,6 +23,9 @@ public:
     virtual uint32_t create(const QString &name, QObject &context, std::function<void()> failed) = 0;
     /// An id that is not held, such as 0, is passed over.
     virtual void release(uint32_t id) = 0;
+    /// Finds out, without taking anything, whether anything here would keep the display awake, and calls back
+    /// in a later turn of the loop, unless `context` is gone by then.
+    virtual void check(QObject &context, ObstacleReply answered) = 0;
 };
 
 } // namespace brimlight

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Obstacle.h"
+
 #include <QString>
 
 #include <functional>
@@ -22,6 +24,9 @@ public:
     /// Starts the script and calls back in a later turn of the loop, unless `context` is gone by then; the
     /// script itself is run to its end in any case.
     virtual void run(const QString &text, QObject &context, ScriptReply done) = 0;
+    /// Finds out, without running the script, what keeps it from doing here what it says, and calls back in a
+    /// later turn of the loop, unless `context` is gone by then. What holds now may not hold later.
+    virtual void check(const QString &text, QObject &context, ObstacleReply answered) = 0;
 };
 
 /// The scripts that switch the system.

@@ -2,7 +2,7 @@ import QtQuick
 import Brimlight.Theme
 import Brimlight.Grid
 
-// A round switch with its name below: filled with the accent while it is on.
+// A round switch with its name below: filled with the accent while it is on, dimmed where it does not work.
 AbstractButton {
     id: root
 
@@ -15,12 +15,16 @@ AbstractButton {
     // Whether it stays pressed: a button does not.
     property bool stays: true
     property bool on: false
+    // Why it does not work; empty when it does.
+    property string obstacle
+    readonly property bool works: obstacle === ""
     readonly property bool lit: hovered || keyed
 
     height: disc.height + 3 + name.height
     role: stays ? Accessible.CheckBox : Accessible.Button
     Accessible.checkable: stays
     Accessible.checked: on
+    Accessible.description: obstacle
     Accessible.onToggleAction: clicked()
 
     Rectangle {
@@ -30,8 +34,8 @@ AbstractButton {
         width: root.size === "small" ? 34 : root.size === "large" ? 32 : 28
         height: width
         radius: width / 2
-        color: root.on ? root.colors.accent : Qt.alpha(root.colors.textPrimary, root.lit ? 0.18 : 0.09)
-        scale: root.pressed && !Motion.reduced ? 0.94 : 1
+        color: root.on ? Qt.alpha(root.colors.accent, root.works ? 1 : 0.35) : Qt.alpha(root.colors.textPrimary, root.lit && root.works ? 0.18 : 0.09)
+        scale: root.pressed && root.works && !Motion.reduced ? 0.94 : 1
 
         Behavior on color {
             ColorAnimation {
@@ -49,6 +53,7 @@ AbstractButton {
             name: root.symbol
             size: disc.width * 0.42
             color: root.on ? root.colors.textOnAccent : root.colors.textPrimary
+            opacity: root.works ? 1 : 0.35
         }
     }
     Text {
@@ -60,11 +65,24 @@ AbstractButton {
         horizontalAlignment: Text.AlignHCenter
         text: root.caption
         color: root.on ? root.colors.textPrimary : root.colors.textSecondary
+        opacity: root.works ? 1 : 0.5
         elide: Text.ElideRight
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 8
         font.family: Fonts.rounded
         font.pixelSize: root.size === "small" ? 10 : 9
         font.weight: Font.Medium
+    }
+    ToolTipLabel {
+        // Within the row where that is wide enough.
+        readonly property real centred: (root.width - width) / 2
+
+        x: root.size === "small" ? centred : Math.max(-root.x, Math.min(centred, root.parent.width - root.x - width))
+        anchors.bottom: disc.top
+        anchors.bottomMargin: 3
+        maximumWidth: 116
+        text: root.obstacle
+        shown: root.lit && !root.works
+        colors: root.colors
     }
 }

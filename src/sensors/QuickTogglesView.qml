@@ -37,6 +37,7 @@ Item {
             label: "Caffeine"
             caption: "Caffeine"
             on: root.face.caffeineActive
+            obstacle: qsTr(root.face.caffeineObstacle)
             onClicked: root.face.toggleCaffeine()
         }
         QuickToggle {
@@ -48,6 +49,7 @@ Item {
             label: "Dark Mode"
             caption: "Dark"
             on: root.face.darkModeActive
+            obstacle: qsTr(root.face.darkModeObstacle)
             onClicked: root.face.toggleDarkMode()
         }
         QuickToggle {
@@ -59,6 +61,7 @@ Item {
             label: "Mute"
             caption: "Mute"
             on: root.face.mutedActive
+            obstacle: qsTr(root.face.muteObstacle)
             onClicked: root.face.toggleMute()
         }
         QuickToggle {
@@ -70,6 +73,7 @@ Item {
             label: "Empty Trash"
             caption: "Trash"
             stays: false
+            obstacle: qsTr(root.face.trashObstacle)
             onClicked: root.face.emptyTrash()
         }
     }

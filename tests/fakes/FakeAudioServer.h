@@ -12,7 +12,8 @@ namespace brimlight::test {
 class FakeAudioServer : public AudioServer
 {
 public:
-    std::unique_ptr<AudioWatch> watch(AudioDirection direction, std::function<void(AudioDeviceState)> known,
+    std::unique_ptr<AudioWatch> watch(AudioDirection direction,
+                                      std::function<void(std::optional<AudioDeviceState>)> known,
                                       std::function<void(AudioDeviceState)> changed) override
     {
         return std::make_unique<Watch>(*this, direction, std::move(known), std::move(changed));
@@ -40,14 +41,10 @@ public:
         for (const auto &pending : std::exchange(m_pending, {}))
             pending();
     }
-    /// The default device of a direction is found.
-    void find(AudioDirection direction, const AudioDeviceState &state)
-    {
-        for (const Watch *watch : watches) {
-            if (watch->direction == direction)
-                watch->known(state);
-        }
-    }
+    /// The default device of a direction is found, or another becomes it.
+    void find(AudioDirection direction, const AudioDeviceState &state) { tell(direction, state); }
+    /// The last device of a direction goes.
+    void lose(AudioDirection direction) { tell(direction, std::nullopt); }
     void change(AudioDirection direction, const AudioDeviceState &state)
     {
         for (const Watch *watch : watches) {
@@ -56,11 +53,17 @@ public:
         }
     }
 
-    /// The default output is found, for the first time or again after a restart.
+    /// An output becomes the default, for the first time, after another, or again after a restart.
     void appear(const AudioDeviceState &state)
     {
         output = state;
         find(AudioDirection::output, state);
+    }
+    /// The last output goes.
+    void vanish()
+    {
+        output.reset();
+        lose(AudioDirection::output);
     }
     void change(const AudioDeviceState &state)
     {
@@ -72,7 +75,8 @@ public:
 
     struct Watch : AudioWatch
     {
-        Watch(FakeAudioServer &server, AudioDirection direction, std::function<void(AudioDeviceState)> known,
+        Watch(FakeAudioServer &server, AudioDirection direction,
+              std::function<void(std::optional<AudioDeviceState>)> known,
               std::function<void(AudioDeviceState)> changed)
             : server(server)
             , direction(direction)
@@ -85,7 +89,7 @@ public:
 
         FakeAudioServer &server;
         AudioDirection direction;
-        std::function<void(AudioDeviceState)> known;
+        std::function<void(std::optional<AudioDeviceState>)> known;
         std::function<void(AudioDeviceState)> changed;
     };
 
@@ -94,6 +98,14 @@ public:
     std::vector<Watch *> watches;
 
 private:
+    void tell(AudioDirection direction, const std::optional<AudioDeviceState> &state)
+    {
+        for (const Watch *watch : watches) {
+            if (watch->direction == direction)
+                watch->known(state);
+        }
+    }
+
     std::vector<std::function<void()>> m_pending;
 };
 

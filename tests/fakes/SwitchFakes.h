@@ -5,6 +5,7 @@
 #include "platform/ScriptHost.h"
 #include "platform/SystemSounds.h"
 
+#include <QHash>
 #include <QPointer>
 #include <QStringList>
 
@@ -41,8 +42,23 @@ public:
             first.done(text);
     }
     int pendingCount() const { return static_cast<int>(m_pending.size()); }
+    void check(const QString &text, QObject &context, ObstacleReply answered) override
+    {
+        m_checks.push_back({text, &context, std::move(answered)});
+    }
+    /// Whoever has asked what is in the way learns it.
+    void answerChecks()
+    {
+        for (const Check &check : std::exchange(m_checks, {})) {
+            if (check.context)
+                check.answered(obstacles.contains(check.text) ? std::optional(obstacles[check.text])
+                                                              : std::nullopt);
+        }
+    }
 
     QStringList started;
+    /// By the text of the script.
+    QHash<QString, Obstacle> obstacles;
 
 private:
     struct Pending
@@ -50,7 +66,14 @@ private:
         QPointer<QObject> context;
         ScriptReply done;
     };
+    struct Check
+    {
+        QString text;
+        QPointer<QObject> context;
+        ObstacleReply answered;
+    };
     std::vector<Pending> m_pending;
+    std::vector<Check> m_checks;
 };
 
 class FakePowerAssertions : public PowerAssertions
@@ -63,12 +86,28 @@ public:
         return nextId;
     }
     void release(uint32_t id) override { released.push_back(id); }
+    void check(QObject &context, ObstacleReply answered) override
+    {
+        m_checks.emplace_back(&context, std::move(answered));
+    }
+    /// Whoever has asked what is in the way learns it.
+    void answerChecks()
+    {
+        for (const auto &[context, answered] : std::exchange(m_checks, {})) {
+            if (context)
+                answered(obstacle);
+        }
+    }
 
     uint32_t nextId = 1;
     QStringList names;
     std::vector<uint32_t> released;
+    std::optional<Obstacle> obstacle;
     /// The last one turns out not to have been taken.
     std::function<void()> fail;
+
+private:
+    std::vector<std::pair<QPointer<QObject>, ObstacleReply>> m_checks;
 };
 
 class FakeSounds : public SystemSounds

@@ -200,6 +200,81 @@ TEST_F(InhibitorAssertionsTest, WithoutAServiceItFails)
         << "the failed one is not taken up again";
 }
 
+TEST_F(InhibitorAssertionsTest, WithoutAServiceTheTimersOfTheDisplayAreHeld)
+{
+    int held = 0;
+    InhibitorAssertions onX11(
+        [address = bus.address()] { return newConnection(address); }, noBus, std::chrono::seconds(1),
+        {.canBeHeld = [] { return true; }, .setHeld = [&](bool hold) { held += hold ? 1 : -1; }});
+    const auto never = [] { ADD_FAILURE(); };
+    const uint32_t first = onX11.create(QStringLiteral("Coffee"), context, never);
+    EXPECT_EQ(held, 0) << "the service is asked first";
+    ASSERT_TRUE(waitFor([&] { return held == 1; }));
+    const uint32_t second = onX11.create(QStringLiteral("Tea"), context, never);
+    ASSERT_TRUE(waitFor([&] { return held == 2; }));
+    onX11.release(first);
+    EXPECT_EQ(held, 1);
+    saver.appear();
+    ASSERT_TRUE(waitFor([&] { return saver.inhibited.size() == 1; }));
+    EXPECT_TRUE(waitFor([&] { return held == 0; })) << "the service has taken over";
+    saver.vanish();
+    ASSERT_TRUE(waitFor([&] { return held == 1; })) << "and left";
+    onX11.release(second);
+    EXPECT_EQ(held, 0);
+}
+
+TEST_F(InhibitorAssertionsTest, WhereAServiceIsTheTimersAreLeftAlone)
+{
+    saver.appear();
+    int held = 0;
+    InhibitorAssertions onX11([address = bus.address()] { return newConnection(address); }, noBus,
+                              std::chrono::seconds(1),
+                              {.canBeHeld = [] { return true; }, .setHeld = [&](bool) { ++held; }});
+    const uint32_t id = onX11.create(QStringLiteral("Coffee"), context, [] { ADD_FAILURE(); });
+    ASSERT_TRUE(waitFor([&] { return saver.inhibited.size() == 1; }));
+    onX11.release(id);
+    ASSERT_TRUE(waitFor([&] { return saver.inhibited.isEmpty(); }));
+    EXPECT_EQ(held, 0);
+}
+
+TEST_F(InhibitorAssertionsTest, KnowsWhetherAnythingWouldKeepTheDisplayAwake)
+{
+    const auto obstacleOf = [this](InhibitorAssertions &asked) {
+        std::optional<Obstacle> found;
+        bool answered = false;
+        asked.check(context, [&](std::optional<Obstacle> obstacle) {
+            found = obstacle;
+            answered = true;
+        });
+        EXPECT_FALSE(answered) << "not in the calling turn";
+        EXPECT_TRUE(waitFor([&] { return answered; }));
+        return found;
+    };
+    EXPECT_EQ(obstacleOf(assertions), Obstacle::nothingKeepsAwake);
+    InhibitorAssertions onX11(noBus, noBus, std::chrono::seconds(1),
+                              {.canBeHeld = [] { return true; }, .setHeld = [](bool) { ADD_FAILURE(); }});
+    EXPECT_EQ(obstacleOf(onX11), std::nullopt) << "the timers of the display";
+    const auto connect = [address = bus.address()] { return newConnection(address); };
+    InhibitorAssertions machine(noBus, connect);
+    EXPECT_EQ(obstacleOf(machine), Obstacle::nothingKeepsAwake);
+    LoginManager manager(bus.address());
+    EXPECT_EQ(obstacleOf(machine), std::nullopt) << "the login manager";
+    EXPECT_FALSE(manager.isHeld());
+    saver.appear();
+    EXPECT_EQ(obstacleOf(assertions), std::nullopt) << "the service";
+    EXPECT_TRUE(saver.programs.isEmpty());
+}
+
+TEST_F(InhibitorAssertionsTest, NobodyIsToldWhoHasGone)
+{
+    auto gone = std::make_unique<QObject>();
+    assertions.check(*gone, [](const auto &) { ADD_FAILURE(); });
+    gone.reset();
+    bool answered = false;
+    assertions.check(context, [&](const auto &) { answered = true; });
+    EXPECT_TRUE(waitFor([&] { return answered; }));
+}
+
 TEST(InhibitorAssertions, WithoutABusItFails)
 {
     InhibitorAssertions assertions(noBus, noBus);

@@ -91,7 +91,7 @@ protected:
     {
         server.emplace(scheduler);
         m_watch = server->watch(
-            direction, [this](const AudioDeviceState &state) { known.push_back(state); },
+            direction, [this](const std::optional<AudioDeviceState> &state) { known.push_back(state); },
             [this](const AudioDeviceState &state) { changed.push_back(state); });
     }
     /// With both sinks, found at 40 %.
@@ -101,7 +101,31 @@ protected:
         ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("40%")));
         watch();
         ASSERT_TRUE(waitFor([this] { return !known.empty(); }));
-        ASSERT_EQ(known, States{{.volume = 0.4}});
+        ASSERT_EQ(known, (Found{AudioDeviceState{.volume = 0.4}}));
+    }
+    /// The default has become another one, or none.
+    bool finds(size_t count)
+    {
+        return waitFor([&] { return known.size() >= count; });
+    }
+    /// Takes the sink out.
+    void remove(const QString &sink)
+    {
+        QString modules;
+        ASSERT_TRUE(daemon->run({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("modules")},
+                                &modules));
+        QString own;
+        for (const QString &line : modules.split(u'\n')) {
+            if (line.contains(QStringLiteral("sink_name=") + sink))
+                own = line.section(u'\t', 0, 0);
+        }
+        ASSERT_FALSE(own.isEmpty());
+        ASSERT_TRUE(daemon->run({QStringLiteral("unload-module"), own}));
+    }
+    void add(const QString &sink)
+    {
+        ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
+                                 QStringLiteral("sink_name=") + sink}));
     }
     std::optional<bool> askMuted()
     {
@@ -127,13 +151,14 @@ protected:
     }
 
     using States = std::vector<AudioDeviceState>;
+    using Found = std::vector<std::optional<AudioDeviceState>>;
 
     const Environment environment;
     const QTemporaryDir m_folder;
     std::optional<PulseDaemon> daemon;
     QtScheduler scheduler;
     std::optional<PulseAudioServer> server;
-    States known;
+    Found known;
     States changed;
     std::unique_ptr<AudioWatch> m_watch;
 };
@@ -186,37 +211,76 @@ TEST_F(PulseAudio, WhatListensToAnOutputIsNoMicrophone)
     EXPECT_TRUE(changed.front().isMuted);
 }
 
-TEST_F(PulseAudio, ADefaultChosenLaterIsNotFollowed)
+TEST_F(PulseAudio, FollowsADefaultThatIsChosenWhileTheOldOneStays)
 {
     startKnown();
-    ASSERT_TRUE(daemon->select(two));
     ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("70%")));
     catchUp();
-    EXPECT_TRUE(changed.empty());
+    EXPECT_TRUE(changed.empty()) << "not the default yet";
+    ASSERT_TRUE(daemon->select(two));
+    ASSERT_TRUE(finds(2));
     ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("20%")));
+    ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("80%")));
     ASSERT_TRUE(hears(1));
-    EXPECT_EQ(changed, States{{.volume = 0.2}});
-    EXPECT_EQ(known.size(), 1u);
+    ASSERT_TRUE(daemon->select(one));
+    ASSERT_TRUE(finds(3));
+    ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("30%")));
+    ASSERT_TRUE(hears(2));
+    EXPECT_EQ(known, (Found{AudioDeviceState{.volume = 0.4}, AudioDeviceState{.volume = 0.7},
+                            AudioDeviceState{.volume = 0.2}}));
+    EXPECT_EQ(changed, (States{{.volume = 0.8}, {.volume = 0.3}}));
 }
 
-TEST_F(PulseAudio, ADeviceThatGoesLeavesItsLastValue)
+TEST_F(PulseAudio, FollowsTheDefaultThatTakesOverFromOneThatIsTakenOut)
 {
     startKnown();
-    QString modules;
-    ASSERT_TRUE(
-        daemon->run({QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("modules")}, &modules));
-    QString own;
-    for (const QString &line : modules.split(u'\n')) {
-        if (line.contains(QStringLiteral("sink_name=one")))
-            own = line.section(u'\t', 0, 0);
-    }
-    ASSERT_FALSE(own.isEmpty());
-    ASSERT_TRUE(daemon->run({QStringLiteral("unload-module"), own}));
     ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("70%")));
-    catchUp();
-    EXPECT_TRUE(changed.empty());
-    EXPECT_EQ(known.size(), 1u);
+    remove(one);
+    ASSERT_TRUE(finds(2));
+    ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("65%")));
+    ASSERT_TRUE(hears(1));
+    EXPECT_EQ(known, (Found{AudioDeviceState{.volume = 0.4}, AudioDeviceState{.volume = 0.7}}));
+    EXPECT_EQ(changed, States{{.volume = 0.65}});
     EXPECT_EQ(askMuted(), false) << "that of the device that is the default now";
+}
+
+TEST_F(PulseAudio, TheLastDeviceThatGoesLeavesNoneUntilOneComes)
+{
+    startKnown();
+    remove(two);
+    remove(one);
+    ASSERT_TRUE(finds(2));
+    EXPECT_EQ(known.back(), std::nullopt);
+    add(two);
+    ASSERT_TRUE(finds(3));
+    ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("35%")));
+    ASSERT_TRUE(hears(1));
+    EXPECT_EQ(changed, States{{.volume = 0.35}});
+}
+
+TEST_F(PulseAudio, FollowsTheDefaultMicrophone)
+{
+    daemon->start({one});
+    const QString first = QStringLiteral("first");
+    const QString second = QStringLiteral("second");
+    for (const QString &name : {first, second})
+        ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-null-source"),
+                                 QStringLiteral("source_name=") + name}));
+    const auto mute = [this](const QString &source) {
+        return daemon->run({QStringLiteral("set-source-mute"), source, QStringLiteral("1")});
+    };
+    ASSERT_TRUE(daemon->run({QStringLiteral("set-default-source"), first}));
+    watch(AudioDirection::input);
+    ASSERT_TRUE(finds(1));
+    ASSERT_TRUE(mute(second));
+    ASSERT_TRUE(daemon->run({QStringLiteral("set-default-source"), second}));
+    ASSERT_TRUE(finds(2));
+    EXPECT_EQ(known, (Found{AudioDeviceState{.volume = 1}, AudioDeviceState{.volume = 1, .isMuted = true}}));
+    ASSERT_TRUE(daemon->run({QStringLiteral("set-default-source"), first}));
+    ASSERT_TRUE(finds(3));
+    ASSERT_TRUE(mute(first));
+    ASSERT_TRUE(hears(1));
+    EXPECT_TRUE(changed.back().isMuted);
 }
 
 TEST_F(PulseAudio, AServerThatComesLateIsFound)
@@ -241,8 +305,10 @@ TEST_F(PulseAudio, AServerThatIsKilledAndRestartedIsAskedAnew)
     startKnown();
     daemon->kill();
     EXPECT_EQ(askMuted(), std::nullopt);
+    ASSERT_TRUE(finds(2));
+    EXPECT_EQ(known.back(), std::nullopt) << "there is no device without a server";
     daemon->start({two});
-    ASSERT_TRUE(waitFor([this] { return known.size() == 2; }));
+    ASSERT_TRUE(finds(3));
     EXPECT_TRUE(changed.empty());
     ASSERT_TRUE(daemon->setVolume(two, QStringLiteral("30%")));
     ASSERT_TRUE(hears(1));
@@ -255,7 +321,8 @@ TEST_F(PulseAudio, AServerThatEndsAndComesBackIsFound)
     daemon->end();
     EXPECT_EQ(askMuted(), std::nullopt);
     daemon->start({one});
-    EXPECT_TRUE(waitFor([this] { return known.size() == 2; }));
+    EXPECT_TRUE(waitFor([this] { return known.size() > 1 && known.back(); }));
+    EXPECT_TRUE(changed.empty());
 }
 
 TEST_F(PulseAudio, AServerWithoutADeviceIsAskedAgainWhenThereIsOne)
@@ -268,8 +335,7 @@ TEST_F(PulseAudio, AServerWithoutADeviceIsAskedAgainWhenThereIsOne)
     ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-always-sink")}));
     catchUp();
     EXPECT_TRUE(known.empty()) << "a device that is made up";
-    ASSERT_TRUE(daemon->run({QStringLiteral("load-module"), QStringLiteral("module-null-sink"),
-                             QStringLiteral("sink_name=one")}));
+    add(one);
     ASSERT_TRUE(waitFor([this] { return !known.empty(); }));
     ASSERT_TRUE(daemon->setVolume(one, QStringLiteral("60%")));
     ASSERT_TRUE(hears(1));
@@ -308,10 +374,10 @@ TEST_F(PulseAudio, NobodyIsCalledBackWhoHasGone)
         server->outputMuted(context, [&](std::optional<bool>) { called = true; });
     }
     const auto watch = server->watch(
-        AudioDirection::output, [&](const AudioDeviceState &) { called = true; },
+        AudioDirection::output, [&](const std::optional<AudioDeviceState> &) { called = true; },
         [&](const AudioDeviceState &) { called = true; });
     server->watch(
-        AudioDirection::output, [&](const AudioDeviceState &) { ADD_FAILURE(); },
+        AudioDirection::output, [&](const std::optional<AudioDeviceState> &) { ADD_FAILURE(); },
         [&](const AudioDeviceState &) { ADD_FAILURE(); });
     EXPECT_TRUE(waitFor([&] { return called; })) << "the watch that is there";
     called = false;
@@ -346,6 +412,19 @@ TEST(PulseSocket, LiesWhereClientsLookForIt)
         qputenv("PULSE_SERVER", server);
         EXPECT_EQ(pulseSocket(), socket) << server;
     }
+}
+
+TEST(PulseDevice, ASocketOfACardIsAPlaceOfItsOwn)
+{
+    const PulseDevice speakers{.index = 3, .port = "analog-output-speaker", .state = {.volume = 0.4}};
+    PulseDevice now = speakers;
+    now.state.volume = 0.7;
+    EXPECT_TRUE(now.isSamePlace(speakers)) << "its volume was turned";
+    now.port = "analog-output-headphones";
+    EXPECT_FALSE(now.isSamePlace(speakers)) << "headphones were plugged in";
+    now = speakers;
+    now.index = 4;
+    EXPECT_FALSE(now.isSamePlace(speakers));
 }
 
 TEST(PulseState, IsTheLoudestChannelOnTheScaleOfTheSliders)

@@ -66,6 +66,21 @@ protected:
         EXPECT_TRUE(replied || waitFor([&] { return replied; }));
         return given;
     }
+    /// What keeps the script from working.
+    std::optional<Obstacle> obstacleOf(const QString &script, LinuxScriptHost &host)
+    {
+        std::optional<Obstacle> found;
+        bool answered = false;
+        host.check(script, context, [&](std::optional<Obstacle> obstacle) {
+            found = obstacle;
+            answered = true;
+        });
+        EXPECT_FALSE(answered) << "not in the calling turn";
+        scheduler.runPosted();
+        audio.answer();
+        EXPECT_TRUE(answered || waitFor([&] { return answered; }));
+        return found;
+    }
     SystemOperations operations()
     {
         return {.audio = audio,
@@ -138,11 +153,29 @@ TEST_F(SystemOperationsTest, TheDarkModeScriptTurnsTheColourSchemeRound)
 TEST_F(SystemOperationsTest, WhereTheColourSchemeIsAnothersTheDarkModeScriptFails)
 {
     SystemOperations elsewhere = operations();
-    elsewhere.usesGnomeSettings = false;
+    elsewhere.plasma = std::make_shared<PlasmaColors>(PlasmaColors::Places{
+        .configFolders = {folder.path()}, .dataFolders = {folder.path()}, .programFolders = {folder.path()}});
     LinuxScriptHost other(scheduler, elsewhere.table());
-    EXPECT_EQ(replyOf(systemScripts::toggleDarkMode, other), std::nullopt);
+    EXPECT_EQ(replyOf(systemScripts::toggleDarkMode, other), std::nullopt) << "no tool of Plasma's";
+    EXPECT_EQ(obstacleOf(systemScripts::toggleDarkMode, other), Obstacle::noColorSchemeTool);
     EXPECT_EQ(interface.text("color-scheme"), QStringLiteral("default"));
     EXPECT_TRUE(told.isEmpty());
+}
+
+TEST_F(SystemOperationsTest, WhatIsInTheWayIsFoundWithoutRunningAnything)
+{
+    EXPECT_EQ(obstacleOf(QStringLiteral("beep"), host), Obstacle::unknownSwitch);
+    EXPECT_EQ(obstacleOf(systemScripts::toggleMute, host), Obstacle::noAudioOutput);
+    audio.output = AudioDeviceState{.volume = 1, .isMuted = false};
+    EXPECT_EQ(obstacleOf(systemScripts::toggleMute, host), std::nullopt);
+    EXPECT_EQ(obstacleOf(systemScripts::outputMuted, host), std::nullopt);
+    EXPECT_FALSE(audio.output->isMuted);
+    EXPECT_EQ(obstacleOf(systemScripts::toggleDarkMode, host), std::nullopt);
+    EXPECT_EQ(interface.text("color-scheme"), QStringLiteral("default"));
+    EXPECT_EQ(obstacleOf(systemScripts::emptyTrash, host), std::nullopt);
+    EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral("Trash/files/folder"))));
+    ASSERT_TRUE(QDir(folder.filePath(QStringLiteral("Trash"))).removeRecursively());
+    EXPECT_EQ(obstacleOf(systemScripts::emptyTrash, host), Obstacle::noTrash);
 }
 
 TEST_F(SystemOperationsTest, TheTrashScriptEmptiesTheTrash)

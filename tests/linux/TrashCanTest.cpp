@@ -196,6 +196,18 @@ TEST_F(TrashCanTest, WithoutATrashThereIsNothingToDo)
     EXPECT_TRUE(can.empty());
 }
 
+TEST_F(TrashCanTest, ExistsWithTheFirstOfItsFolders)
+{
+    EXPECT_TRUE(can.exists()) << "the one at home";
+    can.homeTrash = path(QStringLiteral("nowhere"));
+    EXPECT_FALSE(can.exists());
+    make(QStringLiteral("disk"));
+    writeMounts({path(QStringLiteral("disk"))});
+    EXPECT_FALSE(can.exists());
+    make(QStringLiteral("disk/.Trash-%1").arg(can.user));
+    EXPECT_TRUE(can.exists()) << "the one of a volume";
+}
+
 TEST(MountPoints, AreUnescapedAndEachGivenOnce)
 {
     const QByteArray mountinfo = "22 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw\n"

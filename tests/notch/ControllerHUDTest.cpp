@@ -41,6 +41,16 @@ TEST_F(ControllerHUD, AServerThatComesBackShowsNothing)
     EXPECT_FALSE(shown());
 }
 
+TEST_F(ControllerHUD, AnotherDefaultShowsNothingAndItsNextChangeIsShown)
+{
+    start();
+    audio.appear({.volume = 0.9});
+    scheduler.advance(SystemVolumeMonitor::settling);
+    EXPECT_FALSE(shown());
+    setVolume(0.8);
+    EXPECT_TRUE(shown());
+}
+
 TEST_F(ControllerHUD, AChangeIsShownForOneAndAHalfSeconds)
 {
     start();

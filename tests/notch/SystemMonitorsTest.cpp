@@ -20,7 +20,8 @@ protected:
     }
 
     FakeAudioServer server;
-    SystemVolumeMonitor monitor{server};
+    ManualScheduler scheduler;
+    SystemVolumeMonitor monitor{server, scheduler};
     int changes = 0;
 };
 
@@ -46,6 +47,41 @@ TEST_F(VolumeMonitor, ARestartedServerIsTakenSilentlyToo)
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(VolumeMonitor, AnotherDefaultIsTakenSilentlyAndItsNextChangeNotifies)
+{
+    server.appear({.volume = 0.4});
+    server.appear({.volume = 0.9});
+    EXPECT_EQ(monitor.volume(), 0.9F);
+    EXPECT_EQ(changes, 0);
+    scheduler.advance(SystemVolumeMonitor::settling);
+    server.setVolume(0.8);
+    EXPECT_EQ(monitor.volume(), 0.8F);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(VolumeMonitor, WhatTheServerRestoresRightAfterASwitchBelongsToIt)
+{
+    server.appear({.volume = 0.4});
+    server.appear({.volume = 1});
+    scheduler.advance(SystemVolumeMonitor::settling - 1ms);
+    server.setVolume(0.3);
+    EXPECT_EQ(monitor.volume(), 0.3F);
+    EXPECT_EQ(changes, 0);
+    scheduler.advance(1ms);
+    server.setVolume(0.35);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(VolumeMonitor, IsSilentlyAtZeroOnceTheLastDeviceIsGone)
+{
+    server.appear({.volume = 0.4});
+    server.vanish();
+    EXPECT_EQ(monitor.volume(), 0);
+    server.appear({.volume = 0.4});
+    EXPECT_EQ(monitor.volume(), 0.4F);
+    EXPECT_EQ(changes, 0);
+}
+
 TEST_F(VolumeMonitor, EveryChangeNotifiesAnEqualValueToo)
 {
     server.appear({.volume = 0.4});
@@ -68,7 +104,8 @@ TEST(VolumeMonitorEnd, StopsListening)
 {
     FakeAudioServer server;
     {
-        SystemVolumeMonitor monitor(server);
+        ManualScheduler scheduler;
+        SystemVolumeMonitor monitor(server, scheduler);
         monitor.setupListener();
         EXPECT_EQ(server.watchCount(), 1u);
     }

@@ -85,6 +85,18 @@ TEST_F(SystemStatusMonitorTest, FollowsTheMuteOfTheMicrophone)
     EXPECT_TRUE(monitor.isMuted());
 }
 
+TEST_F(SystemStatusMonitorTest, FollowsTheDefaultMicrophone)
+{
+    SystemStatusMonitor monitor(audio, doNotDisturb, scheduler);
+    find(true);
+    find(false);
+    EXPECT_FALSE(monitor.isMuted()) << "another one has become the default";
+    find(true);
+    EXPECT_TRUE(monitor.isMuted());
+    audio.lose(AudioDirection::input);
+    EXPECT_FALSE(monitor.isMuted()) << "the last one is gone";
+}
+
 TEST_F(SystemStatusMonitorTest, LeavesNothingBehind)
 {
     {

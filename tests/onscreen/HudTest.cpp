@@ -138,6 +138,24 @@ TEST_P(Hud, AMutedDeviceShowsAnEmptyBar)
     EXPECT_TRUE(waitUntil([this] { return filled() <= 4; })) << filled();
 }
 
+TEST_P(Hud, FollowsTheOutputThatIsChosenWithoutShowingTheChoice)
+{
+    const QString headset = u"headset"_s;
+    ASSERT_TRUE(audio.run({u"load-module"_s, u"module-null-sink"_s, u"sink_name="_s + headset}));
+    ASSERT_TRUE(audio.select(sink));
+    ASSERT_TRUE(audio.setVolume(headset, u"90%"_s));
+    ASSERT_TRUE(showsFirst());
+    ASSERT_TRUE(waitUntil([this] { return nothingIsSeen(); }));
+    ASSERT_TRUE(audio.select(headset));
+    std::this_thread::sleep_for(bounded);
+    EXPECT_TRUE(nothingIsSeen());
+    ASSERT_TRUE(setVolume(u"20%"_s)) << "the one that nobody hears";
+    std::this_thread::sleep_for(bounded);
+    EXPECT_TRUE(nothingIsSeen());
+    ASSERT_TRUE(audio.setVolume(headset, u"75%"_s));
+    EXPECT_TRUE(waitUntil([this] { return isSeen() && std::abs(filled() - 70) <= 2; })) << filled();
+}
+
 TEST_P(Hud, AServerThatIsRestartedShowsNothingByItself)
 {
     ASSERT_TRUE(showsFirst());

@@ -1,5 +1,6 @@
 #include "sensors/QuickTogglesStore.h"
 
+#include "core/Translations.h"
 #include "fakes/SwitchFakes.h"
 #include "widgets/WidgetFixture.h"
 
@@ -148,6 +149,85 @@ TEST_F(QuickTogglesStoreTest, EmptyingTheTrashSoundsAtOnce)
     EXPECT_EQ(sounds.played, QStringList(QStringLiteral("Trash")));
     scripts.reply(QString());
     EXPECT_EQ(scripts.pendingCount(), 0) << "nothing is read after it";
+}
+
+TEST_F(QuickTogglesStoreTest, EverythingWorksUntilItIsKnownNotTo)
+{
+    context.setLive(true);
+    scripts.obstacles = {{systemScripts::toggleMute, Obstacle::noAudioOutput}};
+    EXPECT_EQ(store->muteObstacle(), QString());
+    int notified = 0;
+    QObject::connect(&*store, &QuickTogglesStore::obstaclesChanged, [&] { ++notified; });
+    scripts.answerChecks();
+    assertions.answerChecks();
+    EXPECT_EQ(notified, 4);
+    EXPECT_EQ(store->muteObstacle(), QStringLiteral("No audio output was found."));
+    EXPECT_EQ(store->caffeineObstacle(), QString());
+    EXPECT_EQ(store->darkModeObstacle(), QString());
+    EXPECT_EQ(store->trashObstacle(), QString());
+}
+
+TEST_F(QuickTogglesStoreTest, EachObstacleIsAWholeSentenceInEveryLanguage)
+{
+    for (const Obstacle obstacle : {Obstacle::unknownSwitch, Obstacle::noAudioOutput, Obstacle::noColorScheme,
+                                    Obstacle::lockedColorScheme, Obstacle::noColorSchemeTool,
+                                    Obstacle::noTrash, Obstacle::nothingKeepsAwake}) {
+        assertions.obstacle = obstacle;
+        store->updateStates();
+        assertions.answerChecks();
+        const QString english = store->caffeineObstacle();
+        EXPECT_TRUE(english.endsWith(u'.')) << qPrintable(english);
+        for (const AppLanguage language : allLanguages) {
+            const QString text = translate(english, language);
+            EXPECT_TRUE(text.endsWith(u'.')) << qPrintable(text);
+            EXPECT_EQ(text == english, language == AppLanguage::english) << qPrintable(text);
+        }
+    }
+}
+
+TEST_F(QuickTogglesStoreTest, ASwitchThatDoesNotWorkOnlyLooksAgain)
+{
+    scripts.obstacles = {{systemScripts::toggleMute, Obstacle::noAudioOutput},
+                         {systemScripts::toggleDarkMode, Obstacle::noColorScheme},
+                         {systemScripts::emptyTrash, Obstacle::noTrash}};
+    assertions.obstacle = Obstacle::nothingKeepsAwake;
+    store->updateStates();
+    scripts.answerChecks();
+    assertions.answerChecks();
+    scripts.started.clear();
+    store->toggleCaffeine();
+    store->toggleDarkMode();
+    store->toggleMute();
+    store->emptyTrash();
+    EXPECT_FALSE(store->caffeineActive());
+    EXPECT_TRUE(assertions.names.isEmpty());
+    EXPECT_TRUE(sounds.played.isEmpty());
+    for (const QString &script :
+         {systemScripts::toggleMute, systemScripts::toggleDarkMode, systemScripts::emptyTrash})
+        EXPECT_FALSE(scripts.started.contains(script)) << qPrintable(script);
+
+    scripts.obstacles.clear();
+    assertions.obstacle.reset();
+    scripts.answerChecks();
+    assertions.answerChecks();
+    EXPECT_EQ(store->trashObstacle(), QString()) << "it has come meanwhile";
+    store->toggleCaffeine();
+    EXPECT_TRUE(store->caffeineActive());
+    store->toggleMute();
+    EXPECT_EQ(scripts.started.last(), systemScripts::toggleMute);
+}
+
+TEST_F(QuickTogglesStoreTest, CaffeineThatIsHeldCanBeLetGoWhateverIsInTheWay)
+{
+    store->toggleCaffeine();
+    assertions.obstacle = Obstacle::nothingKeepsAwake;
+    store->updateStates();
+    assertions.answerChecks();
+    EXPECT_EQ(store->caffeineObstacle(), QString());
+    store->toggleCaffeine();
+    EXPECT_FALSE(store->caffeineActive());
+    EXPECT_EQ(assertions.released.size(), 1U);
+    EXPECT_NE(store->caffeineObstacle(), QString());
 }
 
 TEST_F(QuickTogglesStoreTest, AReplyAfterItsEndIsNobodys)

@@ -123,6 +123,36 @@ TEST_F(QuickTogglesView, EachSwitchDoesItsOwn)
     EXPECT_EQ(symbols().value(1), QStringLiteral("moon.fill"));
 }
 
+TEST_F(QuickTogglesView, OneThatDoesNotWorkSaysWhy)
+{
+    const QString reason = QStringLiteral("No audio output was found.");
+    const auto description = [this](int index) {
+        return QAccessible::queryAccessibleInterface(toggle(index))->text(QAccessible::Description);
+    };
+    scripts.obstacles = {{systemScripts::toggleMute, Obstacle::noAudioOutput}};
+    show(WidgetSize::wide);
+    EXPECT_EQ(description(2), QString()) << "nothing is known yet";
+    scripts.answerChecks();
+    EXPECT_EQ(description(2), reason) << "to a screen reader";
+    EXPECT_EQ(description(0), QString());
+    EXPECT_EQ(description(1), QString());
+    EXPECT_FALSE(scene.texts().contains(reason));
+    scene.moveTo(Scene::middle(*toggle(2)));
+    settle();
+    EXPECT_TRUE(scene.texts().contains(reason)) << "to whoever points";
+    scene.moveTo(Scene::middle(*toggle(1)));
+    settle();
+    EXPECT_FALSE(scene.texts().contains(reason));
+    scripts.started.clear();
+    scene.click(*toggle(2));
+    EXPECT_FALSE(scripts.started.contains(systemScripts::toggleMute));
+    scripts.obstacles.clear();
+    scripts.answerChecks();
+    EXPECT_EQ(description(2), QString()) << "an output has come meanwhile";
+    scene.click(*toggle(2));
+    EXPECT_TRUE(scripts.started.contains(systemScripts::toggleMute));
+}
+
 TEST_F(QuickTogglesView, KeysPressTheSwitches)
 {
     show(WidgetSize::wide);

@@ -25,6 +25,7 @@
 #include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/X11OverlaySurface.h"
 #include "platform/linux/x11/X11Pointer.h"
+#include "platform/linux/x11/X11ScreenSaver.h"
 
 #include <QCoreApplication>
 #include <QThreadPool>
@@ -86,14 +87,16 @@ struct LinuxPlatform::Backends
     BacklightBrightness brightness;
     LinuxDoNotDisturb doNotDisturb{scheduler};
     LinuxScriptHost scripts{
-        scheduler,
-        SystemOperations{
-            .audio = audio,
-            .darkModeSet = [this](bool isDark) { appearance.setDark(isDark); },
-            .usesGnomeSettings =
-                !qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QStringLiteral("KDE"))}
-            .table()};
-    InhibitorAssertions powerAssertions;
+        scheduler, SystemOperations{.audio = audio,
+                                    .darkModeSet = [this](bool isDark) { appearance.setDark(isDark); },
+                                    .plasma = PlasmaColors::ofDesktop()}
+                       .table()};
+    std::optional<X11ScreenSaver> screenSaver =
+        x11 && !x11->isXWayland() ? std::make_optional<X11ScreenSaver>(*x11) : std::nullopt;
+    InhibitorAssertions powerAssertions{
+        sessionBus, systemBus, InhibitorAssertions::defaultPatience,
+        ScreenTimers{.canBeHeld = [this] { return screenSaver && screenSaver->canBeSuspended(); },
+                     .setHeld = [this](bool held) { screenSaver->setSuspended(held); }}};
     ThemeSounds sounds;
     std::unique_ptr<X11Connection::Listening> workspace = x11 ? watchWorkspace() : nullptr;
 

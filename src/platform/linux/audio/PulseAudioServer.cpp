@@ -31,9 +31,9 @@ PulseAudioServer::PulseAudioServer(Scheduler &scheduler)
 
 PulseAudioServer::~PulseAudioServer() = default;
 
-std::unique_ptr<AudioWatch> PulseAudioServer::watch(AudioDirection direction,
-                                                    std::function<void(AudioDeviceState)> known,
-                                                    std::function<void(AudioDeviceState)> changed)
+std::unique_ptr<AudioWatch>
+PulseAudioServer::watch(AudioDirection direction, std::function<void(std::optional<AudioDeviceState>)> known,
+                        std::function<void(AudioDeviceState)> changed)
 {
     const uint64_t id = ++m_lastId;
     m_listeners.insert(id, {std::move(known), std::move(changed)});
@@ -66,8 +66,8 @@ void PulseAudioServer::post(std::function<void(PulseSession &)> work)
     }
     m_loop->post([this, work = std::move(work)] {
         if (!m_session) {
-            const auto report = [this](std::function<void(AudioDeviceState)> Listener::*which) {
-                return [this, which](uint64_t id, const AudioDeviceState &state) {
+            const auto report = [this](auto Listener::*which) {
+                return [this, which](uint64_t id, const auto &state) {
                     reportBack([this, which, id, state] {
                         // A copy: what is called may end the watch.
                         if (const auto told = m_listeners.value(id).*which)

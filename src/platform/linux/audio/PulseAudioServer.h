@@ -25,7 +25,8 @@ public:
     /// Outlives its watches.
     ~PulseAudioServer() override;
 
-    std::unique_ptr<AudioWatch> watch(AudioDirection direction, std::function<void(AudioDeviceState)> known,
+    std::unique_ptr<AudioWatch> watch(AudioDirection direction,
+                                      std::function<void(std::optional<AudioDeviceState>)> known,
                                       std::function<void(AudioDeviceState)> changed) override;
     void outputMuted(QObject &context, std::function<void(std::optional<bool>)> answered) override;
     void toggleOutputMuted(QObject &context, std::function<void()> done) override;
@@ -34,7 +35,7 @@ private:
     class Watch;
     struct Listener
     {
-        std::function<void(AudioDeviceState)> known;
+        std::function<void(std::optional<AudioDeviceState>)> known;
         std::function<void(AudioDeviceState)> changed;
     };
     struct Request

@@ -145,10 +145,8 @@ void PulseSession::ready()
     };
     pa_context_set_subscribe_callback(m_context.get(), heardOf, this);
     subscribe();
-    for (auto &[id, watch] : m_watches) {
-        watch.device.reset();
+    for (const auto &[id, watch] : m_watches)
         find(id);
-    }
     for (const auto &work : std::exchange(m_waiting, {}))
         work();
 }
@@ -158,6 +156,8 @@ void PulseSession::lost()
     // Before the next attempt, so that a socket made right after it is noticed.
     m_socket.start();
     abandonQueries();
+    for (const auto &[id, watch] : m_watches)
+        take(id, std::nullopt);
     tryAgain();
     for (const auto &work : std::exchange(m_waiting, {}))
         work();
@@ -208,37 +208,44 @@ void PulseSession::heard(pa_subscription_event_type_t event, uint32_t index)
     for (const auto &[id, watch] : m_watches) {
         const unsigned own = watch.direction == AudioDirection::output ? PA_SUBSCRIPTION_EVENT_SINK
                                                                        : PA_SUBSCRIPTION_EVENT_SOURCE;
-        if (!watch.device && (facility == PA_SUBSCRIPTION_EVENT_SERVER || facility == own))
-            find(id);
-        else if (watch.device && facility == own && kind == PA_SUBSCRIPTION_EVENT_CHANGE &&
-                 watch.device->index == index)
+        const bool isFollowed = facility == own && watch.device && watch.device->index == index;
+        if (isFollowed && kind == PA_SUBSCRIPTION_EVENT_CHANGE)
             refresh(id, index);
+        else if (facility == PA_SUBSCRIPTION_EVENT_SERVER || isFollowed || (facility == own && !watch.device))
+            find(id);
     }
 }
 
 void PulseSession::find(uint64_t id)
 {
-    queryDefault(m_watches[id].direction, [this, id](const std::optional<PulseDevice> &device) {
-        const auto watch = m_watches.find(id);
-        // Two questions may be under way; the first answer counts.
-        if (!device || watch == m_watches.end() || watch->second.device)
-            return;
-        watch->second.device = device;
-        m_reports.known(id, device->state);
-    });
+    queryDefault(m_watches[id].direction,
+                 [this, id](const std::optional<PulseDevice> &device) { take(id, device); });
 }
 
 void PulseSession::refresh(uint64_t id, uint32_t index)
 {
-    const AudioDirection direction = m_watches[id].direction;
-    queryIndex(direction, index, [this, id](const std::optional<PulseDevice> &device) {
+    queryIndex(m_watches[id].direction, index, [this, id, index](const std::optional<PulseDevice> &device) {
         const auto watch = m_watches.find(id);
-        // The server also tells of devices that fall asleep or wake up.
-        if (!device || watch == m_watches.end() || watch->second.device == device)
-            return;
-        watch->second.device = device;
-        m_reports.changed(id, device->state);
+        // The default may be another one by now.
+        if (device && watch != m_watches.end() && watch->second.device &&
+            watch->second.device->index == index)
+            take(id, device);
     });
+}
+
+void PulseSession::take(uint64_t id, const std::optional<PulseDevice> &device)
+{
+    const auto watch = m_watches.find(id);
+    // The server also tells of devices that fall asleep or wake up, and of defaults that stay as they are.
+    if (watch == m_watches.end() || watch->second.device == device)
+        return;
+    const std::optional<PulseDevice> before = std::exchange(watch->second.device, device);
+    if (!device)
+        m_reports.known(id, std::nullopt);
+    else if (before && before->isSamePlace(*device))
+        m_reports.changed(id, device->state);
+    else
+        m_reports.known(id, device->state);
 }
 
 template<typename Ask>
@@ -304,7 +311,9 @@ void PulseSession::takeInfo(pa_context *, const Info *info, int end, void *query
     if (end != 0)
         finish(asked);
     else if (isDevice(*info))
-        asked.found = PulseDevice{.index = info->index, .state = pulseState(info->volume, info->mute != 0)};
+        asked.found = PulseDevice{.index = info->index,
+                                  .port = info->active_port ? info->active_port->name : "",
+                                  .state = pulseState(info->volume, info->mute != 0)};
 }
 
 } // namespace brimlight

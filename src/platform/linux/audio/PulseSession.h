@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace brimlight {
@@ -20,8 +21,13 @@ namespace brimlight {
 struct PulseDevice
 {
     uint32_t index = PA_INVALID_INDEX;
+    /// The socket that is in use, each with a volume of its own: loudspeakers and headphones of a sound card
+    /// are one device. Empty where there is but one.
+    std::string port;
     AudioDeviceState state;
 
+    /// Sound comes from the same place.
+    bool isSamePlace(const PulseDevice &other) const { return index == other.index && port == other.port; }
     bool operator==(const PulseDevice &) const = default;
 };
 
@@ -38,8 +44,8 @@ class PulseSession
 public:
     struct Reports
     {
-        /// What a watch has found its device at.
-        std::function<void(uint64_t, AudioDeviceState)> known;
+        /// What a watch has found its device at; absent when it has lost the last one.
+        std::function<void(uint64_t, std::optional<AudioDeviceState>)> known;
         std::function<void(uint64_t, AudioDeviceState)> changed;
     };
 
@@ -58,7 +64,7 @@ private:
     struct Watch
     {
         AudioDirection direction = AudioDirection::output;
-        /// Absent until a device was found.
+        /// The default one; absent while there is none.
         std::optional<PulseDevice> device;
     };
     using Answer = std::function<void(std::optional<PulseDevice>)>;
@@ -86,6 +92,7 @@ private:
     void heard(pa_subscription_event_type_t event, uint32_t index);
     void find(uint64_t id);
     void refresh(uint64_t id, uint32_t index);
+    void take(uint64_t id, const std::optional<PulseDevice> &device);
 
     /// Hands the server a question; `ask` gets the query and returns the operation.
     template<typename Ask>

@@ -38,4 +38,30 @@ void callDBus(const QDBusConnection &bus, const QDBusMessage &call, QObject &con
                      });
 }
 
+void findService(const QDBusConnection &bus, const QString &name, QObject &context,
+                 std::function<void(bool)> answered)
+{
+    if (!bus.isConnected()) {
+        answered(false);
+        return;
+    }
+    const auto ask = [](const QString &method) {
+        return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                              QStringLiteral("/org/freedesktop/DBus"),
+                                              QStringLiteral("org.freedesktop.DBus"), method);
+    };
+    QDBusMessage isOwned = ask(QStringLiteral("NameHasOwner"));
+    isOwned << name;
+    const QDBusMessage startable = ask(QStringLiteral("ListActivatableNames"));
+    callDBus(bus, isOwned, context, [=, &context](const std::optional<QVariantList> &owned) {
+        if (owned && owned->value(0).toBool()) {
+            answered(true);
+            return;
+        }
+        callDBus(bus, startable, context, [=](const std::optional<QVariantList> &names) {
+            answered(names && names->value(0).toStringList().contains(name));
+        });
+    });
+}
+
 } // namespace brimlight

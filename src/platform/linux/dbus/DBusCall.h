@@ -31,4 +31,9 @@ void openBus(QObject &context, std::function<QDBusConnection()> open,
 void callDBus(const QDBusConnection &bus, const QDBusMessage &call, QObject &context,
               std::function<void(std::optional<QVariantList>)> done);
 
+/// Whether a service is on the bus or would be started by a call to it; false without a bus. To be called on
+/// the main thread.
+void findService(const QDBusConnection &bus, const QString &name, QObject &context,
+                 std::function<void(bool)> answered);
+
 } // namespace brimlight

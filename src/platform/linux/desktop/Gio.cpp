@@ -28,6 +28,7 @@ std::optional<Gio> load()
                           find(library, "g_settings_get_boolean", gio.boolean) &&
                           find(library, "g_settings_get_string", gio.string) &&
                           find(library, "g_settings_set_string", gio.setString) &&
+                          find(library, "g_settings_is_writable", gio.isWritable) &&
                           find(library, "g_settings_sync", gio.sync) &&
                           find(library, "g_signal_connect_data", gio.connect) &&
                           find(library, "g_signal_handler_disconnect", gio.disconnect) &&

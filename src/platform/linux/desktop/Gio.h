@@ -19,6 +19,7 @@ struct Gio
     decltype(&g_settings_get_boolean) boolean;
     decltype(&g_settings_get_string) string;
     decltype(&g_settings_set_string) setString;
+    decltype(&g_settings_is_writable) isWritable;
     decltype(&g_settings_sync) sync;
     decltype(&g_signal_connect_data) connect;
     decltype(&g_signal_handler_disconnect) disconnect;

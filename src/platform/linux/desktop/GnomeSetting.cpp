@@ -54,6 +54,11 @@ bool GnomeSetting::setText(const QString &text)
     return written;
 }
 
+bool GnomeSetting::isWritable() const
+{
+    return m_gio.isWritable(m_settings, m_key.constData());
+}
+
 void GnomeSetting::observe(std::function<void()> changed)
 {
     m_changed = std::move(changed);

@@ -24,6 +24,8 @@ public:
     QString text() const;
     /// False when the key may not be written. Waits until it is written, so not on the main thread.
     bool setText(const QString &text);
+    /// False where the administrator has locked the key.
+    bool isWritable() const;
     /// Calls back after each change of a value that has been read since this call, on the thread that has
     /// opened it: only the main thread has a loop that hears of it.
     void observe(std::function<void()> changed);

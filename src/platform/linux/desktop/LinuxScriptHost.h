@@ -7,8 +7,12 @@
 
 namespace brimlight {
 
-/// What one script does. Calls back in a later turn of the loop, unless the context is gone by then.
-using ScriptOperation = std::function<void(QObject &context, ScriptReply done)>;
+/// What one script does. Both call back in a later turn of the loop, unless the context is gone by then.
+struct ScriptOperation
+{
+    std::function<void(QObject &context, ScriptReply done)> run;
+    std::function<void(QObject &context, ObstacleReply answered)> check;
+};
 /// By the text of the script.
 using ScriptTable = QHash<QString, ScriptOperation>;
 
@@ -26,9 +30,17 @@ public:
     void run(const QString &text, QObject &context, ScriptReply done) override
     {
         if (const auto operation = m_operations.constFind(text); operation != m_operations.constEnd())
-            (*operation)(context, std::move(done));
+            operation->run(context, std::move(done));
         else
             m_scheduler.post(context, [done = std::move(done)] { done(std::nullopt); });
+    }
+    void check(const QString &text, QObject &context, ObstacleReply answered) override
+    {
+        if (const auto operation = m_operations.constFind(text); operation != m_operations.constEnd())
+            operation->check(context, std::move(answered));
+        else
+            m_scheduler.post(context,
+                             [answered = std::move(answered)] { answered(Obstacle::unknownSwitch); });
     }
 
 private:

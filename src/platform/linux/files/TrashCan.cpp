@@ -8,8 +8,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <utility>
+#include <vector>
 
 namespace brimlight {
 namespace {
@@ -142,6 +144,26 @@ Folder sharedTrash(const QByteArray &volume, unsigned user)
     return shared.folder(QByteArray::number(user).constData());
 }
 
+std::vector<Folder> trashFolders(const TrashCan &can)
+{
+    std::vector<Folder> folders;
+    // The one at home may be a link of the user's to a larger disk.
+    if (Folder home = openedFolder(can.homeTrash, 0); home.isOpen())
+        folders.push_back(std::move(home));
+    QFile mountinfo(QFile::decodeName(can.mounts));
+    if (!mountinfo.open(QIODevice::ReadOnly))
+        return folders;
+    for (const QByteArray &volume : mountPoints(mountinfo.readAll())) {
+        std::array both{openedFolder(volume + "/.Trash-" + QByteArray::number(can.user), O_NOFOLLOW),
+                        sharedTrash(volume, can.user)};
+        for (Folder &trash : both) {
+            if (trash.isOpen() && trash.status().st_uid == can.user)
+                folders.push_back(std::move(trash));
+        }
+    }
+    return folders;
+}
+
 QByteArray unescaped(const QByteArray &field)
 {
     QByteArray text;
@@ -182,21 +204,14 @@ TrashCan TrashCan::ofUser()
 bool TrashCan::empty() const
 {
     bool all = true;
-    // The one at home may be a link of the user's to a larger disk.
-    if (const Folder home = openedFolder(homeTrash, 0); home.isOpen())
-        all = emptyTrashFolder(home);
-    QFile mountinfo(QFile::decodeName(mounts));
-    if (!mountinfo.open(QIODevice::ReadOnly))
-        return all;
-    for (const QByteArray &volume : mountPoints(mountinfo.readAll())) {
-        const Folder own = openedFolder(volume + "/.Trash-" + QByteArray::number(user), O_NOFOLLOW);
-        const Folder shared = sharedTrash(volume, user);
-        for (const Folder *trash : {&own, &shared}) {
-            if (trash->isOpen() && trash->status().st_uid == user)
-                all = emptyTrashFolder(*trash) && all;
-        }
-    }
+    for (const Folder &trash : trashFolders(*this))
+        all = emptyTrashFolder(trash) && all;
     return all;
+}
+
+bool TrashCan::exists() const
+{
+    return !trashFolders(*this).empty();
 }
 
 } // namespace brimlight

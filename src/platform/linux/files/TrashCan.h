@@ -15,6 +15,9 @@ struct TrashCan
     /// volume that is mounted within is entered. What cannot be removed stays with its description, and the
     /// answer is false. Takes as long as the file systems do.
     bool empty() const;
+    /// Any of the folders is there: the first file that is thrown away makes one. Takes as long as the file
+    /// systems do.
+    bool exists() const;
 
     QByteArray homeTrash;
     QByteArray mounts;
