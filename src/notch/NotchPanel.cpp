@@ -68,7 +68,11 @@ void NotchPanel::setFrame(const Rect &frame, bool animate)
     if (!m_contentVisible)
         m_surface.setSensor(m_frame);
     if (jump) {
+        const Rect before = m_extent;
         settle();
+        // The primary screen may have moved: the same coordinates are another place then.
+        if (m_extent == before)
+            m_surface.setExtent(m_extent);
         return;
     }
     m_from = m_displayed;
@@ -208,6 +212,10 @@ void NotchPanel::setExtent(const Rect &extent)
 }
 
 void NotchPanel::setDrawn(bool drawn)
+    // Popovers stand where they stood in the surface.
+    for (Rect &popover : m_popovers)
+        popover = {popover.x + extent.x - m_extent.x, popover.y + extent.maxY() - m_extent.maxY(),
+                   popover.width, popover.height};
 {
     if (drawn == m_isDrawn)
         return;

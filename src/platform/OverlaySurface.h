@@ -71,6 +71,8 @@ public:
     virtual void setOutlines(const std::vector<SurfaceOutline> &outlines) = 0;
     virtual void setSensor(const Rect &strip) = 0;
     /// True while a text field of the content wants keys; false gives the keyboard back to where it was.
+    /// Logical coordinates count from the primary screen as it is now: when that has moved, an equal extent
+    /// is set again.
     virtual void setWantsKeyboard(bool wants) = 0;
     virtual SurfaceBackdrop backdrop() const = 0;
 };
