@@ -44,7 +44,9 @@ Item {
     transformOrigin: Item.Top
     Component.onCompleted: isMade = true
     Keys.onEscapePressed: {
-        if (galleryOpen)
+        if (scene.gridDrag.isActive)
+            scene.gridDrag.cancel();
+        else if (galleryOpen)
             closeGallery();
         else if (viewModel.flippedWidget !== "")
             viewModel.clearFlip();
@@ -170,7 +172,7 @@ Item {
         opacity: wanted ? 1 : 0
         scale: active ? 1 : 0.95
         transformOrigin: Item.Top
-        enabled: wanted
+        enabled: wanted && root.shown
         onLoaded: giveFocus()
         sourceComponent: ThemeSettingsView {
             theme: root.scene.theme // qmllint disable unqualified

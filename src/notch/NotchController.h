@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/TraceLog.h"
+#include "notch/Dismissal.h"
 #include "notch/HoverWatch.h"
 #include "notch/NotchContainer.h"
 #include "notch/NotchPanel.h"
@@ -126,6 +127,7 @@ private:
     std::optional<Screen> m_currentScreen;
     /// Whether the panel was pinned when the gallery opened.
     bool m_wasPinned = false;
+    Dismissal m_dismissal;
     WorkItem m_collapseWork;
     WorkItem m_expandWork;
     std::unique_ptr<EventMonitor> m_leftRelease;

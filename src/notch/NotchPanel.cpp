@@ -120,6 +120,13 @@ void NotchPanel::removePopover(QObject &owner)
         updateOutlines();
 }
 
+void NotchPanel::removePopovers()
+{
+    const QList<QObject *> owners = m_popovers.keys();
+    for (QObject *owner : owners)
+        removePopover(*owner);
+}
+
 bool NotchPanel::contains(Point point, double margin) const
 {
     return m_frame.outset(margin).contains(point) ||
@@ -205,6 +212,10 @@ void NotchPanel::setExtent(const Rect &extent)
 {
     if (extent == m_extent)
         return;
+    // Popovers stand where they stood in the surface.
+    for (Rect &popover : m_popovers)
+        popover = {popover.x + extent.x - m_extent.x, popover.y + extent.maxY() - m_extent.maxY(),
+                   popover.width, popover.height};
     m_extent = extent;
     m_surface.setExtent(extent);
     updateOutlines();
@@ -212,10 +223,6 @@ void NotchPanel::setExtent(const Rect &extent)
 }
 
 void NotchPanel::setDrawn(bool drawn)
-    // Popovers stand where they stood in the surface.
-    for (Rect &popover : m_popovers)
-        popover = {popover.x + extent.x - m_extent.x, popover.y + extent.maxY() - m_extent.maxY(),
-                   popover.width, popover.height};
 {
     if (drawn == m_isDrawn)
         return;

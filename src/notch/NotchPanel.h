@@ -63,6 +63,7 @@ public:
     void removePopover(QObject &owner);
     /// The same for views, in the surface's coordinates; an empty rectangle takes the popover away.
     Q_INVOKABLE void showPopover(QObject *owner, const QRectF &local);
+    void removePopovers();
     /// Room for the heads-up display under the collapsed strip: the surface is grown for it as long as it is
     /// shown or still seen.
     void setHudShown(bool shown);

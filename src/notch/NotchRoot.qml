@@ -14,6 +14,11 @@ Item {
     readonly property NotchPanel panel: scene.panel
     readonly property theme colors: scene.theme.shown
 
+    // Who uses keys goes on from what had opened a menu.
+    function focusAfter(opener: Item): void {
+        (opener && InputModality.isKeyboard ? opener : content).forceActiveFocus(Qt.TabFocusReason);
+    }
+
     Item {
         id: pane
 
@@ -135,7 +140,7 @@ Item {
         theme: root.scene.theme
         onMenuRectChanged: root.panel.showPopover(menu, menuRect)
         onSizesRectChanged: root.panel.showPopover(sizes, sizesRect)
-        onClosed: (InputModality.isKeyboard ? opener : content).forceActiveFocus()
+        onClosed: root.focusAfter(opener)
 
         QtObject {
             id: sizes
