@@ -33,8 +33,8 @@ void AppDelegate::applicationDidFinishLaunching()
     m_idleMemory.emplace(m_stores->viewModel, m_stores->platform.scheduler,
                          LinuxPlatform::giveBackFreeMemory);
     m_notch->controller.show();
-    m_statusBar.emplace(m_notch->controller, m_stores->loginItem, m_stores->updater,
-                        m_stores->platform.statusItem, [] { QCoreApplication::quit(); });
+    m_statusBar.emplace(m_notch->controller, *m_notch->scene.statusMenu(), m_stores->loginItem,
+                        m_stores->updater, m_stores->platform.statusItem, [] { QCoreApplication::quit(); });
     DebugSignalControls::installIfEnabled(m_flags, m_stores->platform.unixSignals, m_notch->controller,
                                           m_log);
 }

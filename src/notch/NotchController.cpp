@@ -65,6 +65,7 @@ void NotchController::wireContainer()
          .onSwipeDown = unlessOptionsOpen([this] { open(); }),
          .onSwipeUp = unlessOptionsOpen([this] { requestClose(); }),
          .onTap = [this] { tap(); },
+         .onMenu = [this] { openStatusMenu(); },
          .onEscape = [this] { m_viewModel.dismiss(); },
          .onBackdropChanged = [this] { Q_EMIT m_panel.backdropChanged(); }});
 }
@@ -197,6 +198,14 @@ void NotchController::tap()
         requestClose();
     else
         tapTogglePin();
+}
+
+void NotchController::openStatusMenu()
+{
+    const std::optional<Point> place = m_pointer.location();
+    open();
+    if (place)
+        Q_EMIT statusMenuRequested(m_panel.inSurface(*place));
 }
 
 void NotchController::handleEnter()

@@ -80,10 +80,16 @@ public:
     void open();
     /// A tap on the bare surface or on the collapsed strip.
     Q_INVOKABLE void tap();
+    /// Opens and pins, and asks the view for the status menu where the pointer is.
+    void openStatusMenu();
 
     NotchPanel &panel() { return m_panel; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
     bool isCollapsePending() const { return m_collapseWork.isPending(); }
+
+Q_SIGNALS:
+    /// The place is in the surface's coordinates.
+    void statusMenuRequested(const QPointF &place);
 
 private:
     void wireContainer();
@@ -121,13 +127,13 @@ private:
     const ThemeStore &m_theme;
 
     NotchPanel m_panel;
+    Dismissal m_dismissal;
     NotchContainer m_container;
     HoverWatch m_hoverWatch;
 
     std::optional<Screen> m_currentScreen;
     /// Whether the panel was pinned when the gallery opened.
     bool m_wasPinned = false;
-    Dismissal m_dismissal;
     WorkItem m_collapseWork;
     WorkItem m_expandWork;
     std::unique_ptr<EventMonitor> m_leftRelease;

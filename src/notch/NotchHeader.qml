@@ -18,8 +18,16 @@ Item {
     readonly property alias settingsButton: gear
 
     signal galleryRequested
+    // By a key on one of the controls.
+    signal menuRequested(Item opener)
 
     height: 24
+    Keys.onPressed: event => {
+        const shiftF10 = event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier);
+        event.accepted = event.key === Qt.Key_Menu || shiftF10;
+        if (event.accepted)
+            menuRequested(Window.activeFocusItem);
+    }
 
     Row {
         anchors.left: parent.left

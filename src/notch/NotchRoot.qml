@@ -85,6 +85,7 @@ Item {
                     scene: root.scene // qmllint disable unqualified
                     controller: root.controller // qmllint disable unqualified
                     focus: true
+                    onStatusMenuRequested: (opener, position) => statusMenu.openAt(mapToItem(root, position), opener) // qmllint disable unqualified
                     onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
                 }
             }
@@ -144,6 +145,25 @@ Item {
 
         QtObject {
             id: sizes
+        }
+    }
+    StatusMenu {
+        id: statusMenu
+
+        anchors.fill: parent
+        entries: root.scene.statusMenu
+        viewState: root.scene.viewModel
+        theme: root.scene.theme
+        onMenuRectChanged: root.panel.showPopover(statusMenu, menuRect)
+        onClosed: root.focusAfter(opener)
+
+        Connections {
+            target: root.controller
+
+            function onStatusMenuRequested(place) {
+                InputModality.pointed();
+                statusMenu.openAt(place, null);
+            }
         }
     }
 }
