@@ -64,7 +64,7 @@ Item {
                 weight: Font.DemiBold
                 color: root.colors.accent
                 Accessible.role: Accessible.Indicator
-                Accessible.name: "Do Not Disturb"
+                Accessible.name: qsTr("Do Not Disturb")
             }
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
@@ -74,7 +74,7 @@ Item {
                 weight: Font.DemiBold
                 color: root.status.mutedColor
                 Accessible.role: Accessible.Indicator
-                Accessible.name: "Microphone muted"
+                Accessible.name: qsTr("Microphone muted")
             }
         }
 
@@ -140,7 +140,7 @@ Item {
                 height: 16
                 symbol: "plus.circle.fill"
                 symbolSize: 12
-                label: "Add page"
+                label: qsTr("Add page")
                 color: root.colors.textSecondary
                 onClicked: root.scene.pageControls.addPage()
 
