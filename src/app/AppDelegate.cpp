@@ -35,8 +35,8 @@ void AppDelegate::applicationDidFinishLaunching()
     m_idleMemory.emplace(m_stores->viewModel, m_stores->platform.scheduler,
                          LinuxPlatform::giveBackFreeMemory);
     m_notch->controller.show();
-    m_statusBar.emplace(m_notch->controller, m_stores->loginItem, m_stores->updater,
-                        m_stores->platform.statusItem, [] { QCoreApplication::quit(); });
+    m_statusBar.emplace(m_notch->controller, *m_notch->scene.statusMenu(), m_stores->loginItem,
+                        m_stores->updater, m_stores->platform.statusItem, [] { QCoreApplication::quit(); });
     // The end of a session ends the program as its menu does: what has just been set is written before.
     m_stores->platform.unixSignals.install(SIGTERM, [] { QCoreApplication::quit(); });
     DebugSignalControls::installIfEnabled(m_flags, m_stores->platform.unixSignals, m_notch->controller,

@@ -2,6 +2,7 @@
 
 #include "core/LoginItemService.h"
 #include "notch/NotchController.h"
+#include "notch/PanelMenu.h"
 #include "theme/SymbolImage.h"
 #include "update/UpdateService.h"
 
@@ -18,10 +19,11 @@ constexpr QRgb tint = qRgb(0x8a, 0x8a, 0x8a);
 
 } // namespace
 
-StatusBarController::StatusBarController(NotchController &controller, LoginItemService &loginItem,
-                                         UpdateService &updater, StatusItem &item,
-                                         std::function<void()> terminate)
+StatusBarController::StatusBarController(NotchController &controller, PanelMenu &panelMenu,
+                                         LoginItemService &loginItem, UpdateService &updater,
+                                         StatusItem &item, std::function<void()> terminate)
     : m_item(item)
+    , m_panelMenu(panelMenu)
     , m_controller(controller)
     , m_loginItem(loginItem)
     , m_updater(updater)
@@ -32,7 +34,9 @@ StatusBarController::StatusBarController(NotchController &controller, LoginItemS
                      .accessibilityDescription = QStringLiteral("Brimlight"),
                      .draw = [symbol](int side) { return statusPicture(symbol, side); }});
     m_item.setAction([this] { openNotch(); });
-    m_item.setMenu(menu(), [this] { menuWillOpen(); });
+    const auto willOpen = [this] { menuWillOpen(); };
+    m_item.setMenu(menu(), willOpen);
+    m_panelMenu.setMenu(menu(), willOpen);
 }
 
 /// In plain English in every language.
@@ -57,6 +61,7 @@ void StatusBarController::menuWillOpen()
 {
     m_loginItem.refresh();
     m_item.setChecked(loginMenuItem, m_loginItem.isEnabled());
+    m_panelMenu.setChecked(loginMenuItem, m_loginItem.isEnabled());
 }
 
 void StatusBarController::openNotch()

@@ -8,16 +8,18 @@ namespace brimlight {
 
 class LoginItemService;
 class NotchController;
+class PanelMenu;
 class UpdateService;
 
 /// The status item with its menu: what reaches the panel from anywhere. It pins what it opens, because the
-/// pointer is then away from the panel.
+/// pointer is then away from the panel. The same menu opens inside of the panel, since not every desktop
+/// shows status items.
 class StatusBarController
 {
 public:
     /// `terminate` ends the program. Everything handed over must outlive the item.
-    StatusBarController(NotchController &controller, LoginItemService &loginItem, UpdateService &updater,
-                        StatusItem &item, std::function<void()> terminate);
+    StatusBarController(NotchController &controller, PanelMenu &panelMenu, LoginItemService &loginItem,
+                        UpdateService &updater, StatusItem &item, std::function<void()> terminate);
 
 private:
     std::vector<StatusMenuEntry> menu();
@@ -28,6 +30,7 @@ private:
     void checkForUpdates();
 
     StatusItem &m_item;
+    PanelMenu &m_panelMenu;
     NotchController &m_controller;
     LoginItemService &m_loginItem;
     UpdateService &m_updater;

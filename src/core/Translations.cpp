@@ -46,22 +46,25 @@ constexpr Row rows[] = {
     {{u"Use Celsius (°C) for temperature", u"Temperatur in Celsius (°C) anzeigen", u"Afficher la température en Celsius (°C)", u"Mostrar la temperatura en Celsius (°C)", u"Mostra la temperatura in Celsius (°C)"}},
     {{u"Performance", u"Leistung", u"Performances", u"Rendimiento", u"Prestazioni"}},
     {{u"Refresh Interval", u"Aktualisierungsintervall", u"Intervalle d'actualisation", u"Intervalo de actualización", u"Intervallo di aggiornamento"}},
-    {{u"Controls update speed of active widgets in the expanded notch. Slower updates conserve MacBook battery.",
-      u"Bestimmt, wie oft sich die aktiven Widgets in der geöffneten Notch aktualisieren. Langsamere Aktualisierung schont den MacBook-Akku.",
-      u"Définit la vitesse de mise à jour des widgets actifs dans l'encoche ouverte. Des mises à jour plus lentes économisent la batterie du MacBook.",
-      u"Controla la velocidad de actualización de los widgets activos en la muesca abierta. Una actualización más lenta ahorra batería del MacBook.",
-      u"Regola la velocità di aggiornamento dei widget attivi nel notch aperto. Aggiornamenti più lenti risparmiano la batteria del MacBook."}},
+    {{u"Controls update speed of active widgets in the expanded notch. Slower updates conserve your computer's battery.",
+      u"Bestimmt, wie oft sich die aktiven Widgets in der geöffneten Notch aktualisieren. Langsamere Aktualisierung schont den Akku deines Computers.",
+      u"Définit la vitesse de mise à jour des widgets actifs dans l'encoche ouverte. Des mises à jour plus lentes économisent la batterie de votre ordinateur.",
+      u"Controla la velocidad de actualización de los widgets activos en la muesca abierta. Una actualización más lenta ahorra batería en tu ordenador.",
+      u"Regola la velocità di aggiornamento dei widget attivi nel notch aperto. Aggiornamenti più lenti risparmiano la batteria del tuo computer."}},
     {{u"Software Update", u"Softwareupdate", u"Mise à jour logicielle", u"Actualización de software", u"Aggiornamento software"}},
     {{u"Current Version: ", u"Aktuelle Version: ", u"Version actuelle: ", u"Versión actual: ", u"Versione corrente: "}},
     {{u"Last checked: ", u"Zuletzt geprüft: ", u"Dernière vérification: ", u"Última comprobación: ", u"Ultimo controllo: "}},
     {{u"Check Now", u"Jetzt suchen", u"Vérifier", u"Comprobar ahora", u"Controlla ora"}},
-    {{u"Automatically check for updates", u"Automatisch nach Updates suchen", u"Rechercher automatisch", u"Buscar actualizaciones automáticamente", u"Verifica aggiornamenti automaticamente"}},
+    {{u"Automatically check for updates", u"Automatisch nach Updates suchen", u"Rechercher automatiquement les mises à jour", u"Buscar actualizaciones automáticamente", u"Verifica aggiornamenti automaticamente"}},
     {{u"Checking for updates...", u"Suche nach Updates...", u"Recherche de mises à jour...", u"Buscando actualizaciones...", u"Ricerca di aggiornamenti..."}},
     {{u"Brimlight is up to date.", u"Brimlight ist auf dem neuesten Stand.", u"Brimlight est à jour.", u"Brimlight está actualizado.", u"Brimlight è aggiornato."}},
     {{u"Download & Install", u"Laden & installieren", u"Télécharger et installer", u"Descargar e instalar", u"Scarica e installa"}},
     {{u"Downloading update...", u"Update wird geladen...", u"Téléchargement en cours...", u"Descargando actualización...", u"Download dell'aggiornamento..."}},
     {{u"Cancel", u"Abbrechen", u"Annuler", u"Cancelar", u"Annulla"}},
-    {{u"Installing update. The app will restart shortly...", u"Update wird installiert. Die App startet gleich neu...", u"Installation en cours...", u"Instalando actualización...", u"Installazione dell'aggiornamento..."}},
+    {{u"Installing update. The app will restart shortly...", u"Update wird installiert. Die App startet gleich neu...",
+      u"Installation de la mise à jour. L'application va bientôt redémarrer...",
+      u"Instalando la actualización. La aplicación se reiniciará en breve...",
+      u"Installazione dell'aggiornamento. L'app si riavvierà a breve..."}},
     {{u"Update Error", u"Update-Fehler", u"Erreur de mise à jour", u"Error de actualización", u"Errore di aggiornamento"}},
     {{u"Theme Presets", u"Farbschemata", u"Thèmes prédéfinis", u"Temas predefinidos", u"Temi predefiniti"}},
     {{u"Reset to Default Preset", u"Zurücksetzen", u"Réinitialiser", u"Restablecer", u"Ripristina"}},
@@ -78,7 +81,7 @@ constexpr Row rows[] = {
     {{u"Widgets", u"Widgets", u"Widgets", u"Widgets", u"Widget"}},
     {{u"Add widget", u"Widget hinzufügen", u"Ajouter un widget", u"Añadir widget", u"Aggiungi widget"}},
     {{u"Close", u"Schließen", u"Fermer", u"Cerrar", u"Chiudi"}},
-    {{u"Keep open", u"Angeheftet lassen", u"Garder ouvert", u"Mantener ouvert", u"Mantieni aperto"}},
+    {{u"Keep open", u"Angeheftet lassen", u"Garder ouvert", u"Mantener abierto", u"Mantieni aperto"}},
     {{u"Language", u"Sprache", u"Langue", u"Idioma", u"Lingua"}},
     {{u"General", u"Allgemein", u"Général", u"General", u"Generali"}},
     {{u"Appearance", u"Darstellung", u"Apparence", u"Apariencia", u"Aspetto"}},
@@ -112,7 +115,7 @@ constexpr Row rows[] = {
       u"Personalizza temi, colori e aggiornamenti direttamente qui. Tutto si adatta al tuo modo di lavorare."}},
 };
 
-// What the settings panel says beyond the table.
+// What the panel says beyond the table.
 constexpr Row panelRows[] = {
     {{u"Live · 0.5 s", u"Live · 0,5 s", u"En direct · 0,5 s", u"En vivo · 0,5 s", u"Dal vivo · 0,5 s"}},
     {{u"Balanced · 1 s", u"Ausgewogen · 1 s", u"Équilibré · 1 s", u"Equilibrado · 1 s", u"Bilanciato · 1 s"}},
@@ -124,6 +127,42 @@ constexpr Row panelRows[] = {
     {{u"Brightness", u"Helligkeit", u"Luminosité", u"Brillo", u"Luminosità"}},
     {{u"Opacity", u"Deckkraft", u"Opacité", u"Opacidad", u"Opacità"}},
     {{u"Hex value", u"Hexwert", u"Valeur hexadécimale", u"Valor hexadecimal", u"Valore esadecimale"}},
+    {{u"New version %@ is available!", u"Version %@ ist verfügbar!", u"La version %@ est disponible !", u"¡La versión %@ está disponible!", u"È disponibile la versione %@!"}},
+    {{u"Page", u"Seite", u"Page", u"Página", u"Pagina"}},
+    {{u"Add page", u"Seite hinzufügen", u"Ajouter une page", u"Añadir página", u"Aggiungi pagina"}},
+    {{u"Do Not Disturb", u"Nicht stören", u"Ne pas déranger", u"No molestar", u"Non disturbare"}},
+    {{u"Microphone muted", u"Mikrofon stummgeschaltet", u"Micro coupé", u"Micrófono silenciado", u"Microfono disattivato"}},
+};
+
+struct EdgeRow
+{
+    /// The text that this one stands for.
+    const char16_t *key;
+    Row row;
+};
+
+// Where the screen has no camera housing, nothing speaks of one.
+constexpr EdgeRow edgeRows[] = {
+    {u"Notch Trigger", {{u"Panel Trigger", u"Panel-Auslöser", u"Déclencheur du panneau", u"Disparador del panel", u"Attivatore del pannello"}}},
+    {u"Requires hovering the mouse over the notch for the selected duration before expanding. Prevents accidental triggers.",
+     {{u"Requires resting the mouse in the middle of the screen's top edge for the selected duration before expanding. Prevents accidental triggers.",
+       u"Der Mauszeiger muss für die gewählte Dauer in der Mitte des oberen Bildschirmrands ruhen, bevor sich das Panel öffnet. Verhindert versehentliches Öffnen.",
+       u"La souris doit rester au milieu du bord supérieur de l'écran pendant la durée choisie avant l'ouverture. Évite les déclenchements accidentels.",
+       u"El ratón debe permanecer en el centro del borde superior de la pantalla durante el tiempo elegido antes de que se abra el panel. Evita aperturas accidentales.",
+       u"Il mouse deve restare al centro del bordo superiore dello schermo per la durata scelta prima che il pannello si apra. Evita aperture accidentali."}}},
+    {u"Controls update speed of active widgets in the expanded notch. Slower updates conserve your computer's battery.",
+     {{u"Controls update speed of active widgets in the expanded panel. Slower updates conserve your computer's battery.",
+       u"Bestimmt, wie oft sich die aktiven Widgets im geöffneten Panel aktualisieren. Langsamere Aktualisierung schont den Akku deines Computers.",
+       u"Définit la vitesse de mise à jour des widgets actifs dans le panneau ouvert. Des mises à jour plus lentes économisent la batterie de votre ordinateur.",
+       u"Controla la velocidad de actualización de los widgets activos en el panel abierto. Una actualización más lenta ahorra batería en tu ordenador.",
+       u"Regola la velocità di aggiornamento dei widget attivi nel pannello aperto. Aggiornamenti più lenti risparmiano la batteria del tuo computer."}}},
+    {u"Notch Surface", {{u"Panel Surface", u"Panel-Oberfläche", u"Surface du panneau", u"Superficie del panel", u"Superficie del pannello"}}},
+    {u"Your camera notch is now a powerful, liquid-glass workspace. Hover to peek, tap to pin, and access tools instantly.",
+     {{u"The top edge of your screen is now a powerful, liquid-glass workspace. Hover to peek, tap to pin, and access tools instantly.",
+       u"Der obere Rand deines Bildschirms ist jetzt ein starker Arbeitsplatz aus flüssigem Glas. Zeig darauf für einen Blick, tippe zum Anheften und erreiche alle Werkzeuge sofort.",
+       u"Le bord supérieur de votre écran est désormais un puissant espace de travail en verre liquide. Survolez pour jeter un œil, touchez pour épingler et accédez aussitôt à vos outils.",
+       u"El borde superior de tu pantalla es ahora un potente espacio de trabajo de cristal líquido. Pasa el puntero para echar un vistazo, toca para fijar y accede a tus herramientas al instante.",
+       u"Il bordo superiore dello schermo è ora un potente spazio di lavoro in vetro liquido. Passa il puntatore per sbirciare, tocca per fissare e accedi subito agli strumenti."}}},
 };
 
 // Why a switch of the system does not work.
@@ -158,6 +197,17 @@ const QHash<QString, const Row *> &rowsByKey()
     return table;
 }
 
+const QHash<QString, const Row *> &edgeRowsByKey()
+{
+    static const QHash<QString, const Row *> table = [] {
+        QHash<QString, const Row *> hash;
+        for (const EdgeRow &edge : edgeRows)
+            hash.insert(text(edge.key), &edge.row);
+        return hash;
+    }();
+    return table;
+}
+
 } // namespace
 
 QString rawValue(AppLanguage language)
@@ -183,9 +233,10 @@ QStringList translationKeys()
     return keys;
 }
 
-QString translate(const QString &key, AppLanguage language)
+QString translate(const QString &key, AppLanguage language, Housing housing)
 {
-    const Row *row = rowsByKey().value(key);
+    const Row *edge = housing == Housing::absent ? edgeRowsByKey().value(key) : nullptr;
+    const Row *row = edge ? edge : rowsByKey().value(key);
     return row ? text(row->texts[static_cast<size_t>(language)]) : key;
 }
 

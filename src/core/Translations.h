@@ -19,11 +19,14 @@ std::optional<AppLanguage> languageFromRawValue(const QString &raw);
 /// The language's name for itself.
 QString label(AppLanguage language);
 
-/// The keys of the table in its order, without those of the settings panel and of the system's switches. A
-/// key is the English text itself.
+/// Whether the screen has a camera housing, the notch. Where it has none, texts speak of the top edge.
+enum class Housing { absent, present };
+
+/// The keys of the table in its order, without those that were added to it later. A key is the English text
+/// for a screen with a housing.
 QStringList translationKeys();
 
 /// The text of `key` in `language`; `key` itself when it is not translated.
-QString translate(const QString &key, AppLanguage language);
+QString translate(const QString &key, AppLanguage language, Housing housing = Housing::present);
 
 } // namespace brimlight

@@ -19,7 +19,7 @@ UiTranslator::~UiTranslator()
 
 QString UiTranslator::translate(const char *, const char *sourceText, const char *, int) const
 {
-    return m_settings.localized(QString::fromUtf8(sourceText));
+    return brimlight::translate(QString::fromUtf8(sourceText), m_settings.language(), m_housing);
 }
 
 } // namespace brimlight

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Translations.h"
+
 #include <QTranslator>
 
 namespace brimlight {
@@ -7,12 +9,16 @@ namespace brimlight {
 class AppSettings;
 
 /// Lets the views' qsTr() answer from the program's own table in the user's language. Installed as long as it
-/// lives.
+/// lives, for a screen without a camera housing at first.
 class UiTranslator : public QTranslator
 {
 public:
     explicit UiTranslator(const AppSettings &settings);
     ~UiTranslator() override;
+
+    Housing housing() const { return m_housing; }
+    /// Whoever shows texts asks for them anew.
+    void setHousing(Housing housing) { m_housing = housing; }
 
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *sourceText, const char *disambiguation,
@@ -20,6 +26,7 @@ public:
 
 private:
     const AppSettings &m_settings;
+    Housing m_housing = Housing::absent;
 };
 
 } // namespace brimlight

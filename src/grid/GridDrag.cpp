@@ -13,6 +13,7 @@ GridDrag::GridDrag(GridStore &grid, GridViewState &state, QObject *parent)
     , m_grid(grid)
     , m_state(state)
 {
+    connect(&state, &GridViewState::dismissed, this, &GridDrag::cancel);
 }
 
 QRectF GridDrag::highlight() const

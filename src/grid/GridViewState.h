@@ -37,11 +37,14 @@ public:
     /// Shows the back of this widget, or its front if the back is showing.
     Q_INVOKABLE void toggleFlip(const QString &id);
     Q_INVOKABLE void clearFlip();
+    /// Closes every menu and popover and gives up a drag.
+    void dismiss() { Q_EMIT dismissed(); }
 
 Q_SIGNALS:
     void isDraggingChanged();
     void optionsOpenChanged();
     void flippedWidgetIDChanged();
+    void dismissed();
 
 private:
     bool m_isDragging = false;

@@ -46,6 +46,20 @@ FocusScope {
         instanceId = "";
         sizesOpen = false;
     }
+    // Its tile is no longer there to have the focus.
+    function dismiss(): void {
+        opener = null;
+        if (isOpen)
+            close();
+    }
+
+    Connections {
+        target: root.viewState
+
+        function onDismissed() {
+            root.dismiss();
+        }
+    }
 
     visible: isOpen
     Keys.onEscapePressed: sizesOpen ? closeSizes() : close()

@@ -16,6 +16,8 @@ NotchContainer::NotchContainer(OverlaySurface &surface)
     surface.setEvents({.entered = [this] { call(m_callbacks.onEnter); },
                        .exited = [this] { call(m_callbacks.onExit); },
                        .tapped = [this] { call(m_callbacks.onTap); },
+                       .menuRequested = [this] { call(m_callbacks.onMenu); },
+                       .escapePressed = [this] { call(m_callbacks.onEscape); },
                        .scrolled = [this](const ScrollEvent &event) { return scrolled(event); },
                        .backdropChanged = [this] { call(m_callbacks.onBackdropChanged); }});
 }

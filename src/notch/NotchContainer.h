@@ -6,7 +6,8 @@
 
 namespace brimlight {
 
-/// The content side of the surface's pointer: entries, exits, taps on the collapsed strip and swipes.
+/// The content side of the surface's pointer: entries, exits, clicks on the collapsed strip and
+/// swipes; and Escape while it is watched for.
 class NotchContainer
 {
 public:
@@ -19,6 +20,8 @@ public:
         std::function<void()> onSwipeDown;
         std::function<void()> onSwipeUp;
         std::function<void()> onTap;
+        std::function<void()> onMenu;
+        std::function<void()> onEscape;
         /// What lies behind the surface is another kind of thing from now on.
         std::function<void()> onBackdropChanged;
     };

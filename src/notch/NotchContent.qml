@@ -21,6 +21,7 @@ Item {
     // From 0, the walk-through, to 1, header and grid.
     property real arrival: viewModel.onboardingCompleted ? 1 : 0
 
+    signal statusMenuRequested(Item opener, point position)
     signal menuRequested(Item tile, string instanceId, string kind, point position)
 
     function openGallery(): void {
@@ -44,7 +45,9 @@ Item {
     transformOrigin: Item.Top
     Component.onCompleted: isMade = true
     Keys.onEscapePressed: {
-        if (galleryOpen)
+        if (scene.gridDrag.isActive)
+            scene.gridDrag.cancel();
+        else if (galleryOpen)
             closeGallery();
         else if (viewModel.flippedWidget !== "")
             viewModel.clearFlip();
@@ -131,6 +134,16 @@ Item {
         }
     }
 
+    // The header and the edge of the screen above it, whatever is shown below.
+    Item {
+        width: parent.width
+        height: root.topInset
+
+        Tap {
+            acceptedButtons: Qt.RightButton
+            onTapped: point => root.statusMenuRequested(null, parent.mapToItem(root, point.position))
+        }
+    }
     // Before the tiles, since Tab goes by this order; above them, since its tool tips reach down.
     NotchHeader {
         id: header
@@ -145,6 +158,7 @@ Item {
         scene: root.scene
         controller: root.controller
         onGalleryRequested: root.openGallery()
+        onMenuRequested: opener => root.statusMenuRequested(opener, opener.mapToItem(root, 0, opener.height + 6))
     }
 
     // Made when it is opened, gone with the panel: it is rarely seen.
@@ -170,7 +184,7 @@ Item {
         opacity: wanted ? 1 : 0
         scale: active ? 1 : 0.95
         transformOrigin: Item.Top
-        enabled: wanted
+        enabled: wanted && root.shown
         onLoaded: giveFocus()
         sourceComponent: ThemeSettingsView {
             theme: root.scene.theme // qmllint disable unqualified

@@ -39,6 +39,7 @@ NotchController::NotchController(const NotchParts &parts, OverlaySurface &surfac
     , m_appSettings(parts.appSettings)
     , m_theme(parts.theme)
     , m_panel(surface)
+    , m_dismissal(parts.viewModel, m_panel, surface)
     , m_container(surface)
     , m_hoverWatch(parts.pointer, parts.scheduler, [this] { evaluateHover(); })
 {
@@ -64,6 +65,8 @@ void NotchController::wireContainer()
          .onSwipeDown = unlessOptionsOpen([this] { open(); }),
          .onSwipeUp = unlessOptionsOpen([this] { requestClose(); }),
          .onTap = [this] { tap(); },
+         .onMenu = [this] { openStatusMenu(); },
+         .onEscape = [this] { m_viewModel.dismiss(); },
          .onBackdropChanged = [this] { Q_EMIT m_panel.backdropChanged(); }});
 }
 
@@ -195,6 +198,14 @@ void NotchController::tap()
         requestClose();
     else
         tapTogglePin();
+}
+
+void NotchController::openStatusMenu()
+{
+    const std::optional<Point> place = m_pointer.location();
+    open();
+    if (place)
+        Q_EMIT statusMenuRequested(m_panel.inSurface(*place));
 }
 
 void NotchController::handleEnter()

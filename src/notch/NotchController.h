@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/TraceLog.h"
+#include "notch/Dismissal.h"
 #include "notch/HoverWatch.h"
 #include "notch/NotchContainer.h"
 #include "notch/NotchPanel.h"
@@ -79,10 +80,16 @@ public:
     void open();
     /// A tap on the bare surface or on the collapsed strip.
     Q_INVOKABLE void tap();
+    /// Opens and pins, and asks the view for the status menu where the pointer is.
+    void openStatusMenu();
 
     NotchPanel &panel() { return m_panel; }
     bool isExpandPending() const { return m_expandWork.isPending(); }
     bool isCollapsePending() const { return m_collapseWork.isPending(); }
+
+Q_SIGNALS:
+    /// The place is in the surface's coordinates.
+    void statusMenuRequested(const QPointF &place);
 
 private:
     void wireContainer();
@@ -120,6 +127,7 @@ private:
     const ThemeStore &m_theme;
 
     NotchPanel m_panel;
+    Dismissal m_dismissal;
     NotchContainer m_container;
     HoverWatch m_hoverWatch;
 

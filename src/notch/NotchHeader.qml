@@ -18,8 +18,16 @@ Item {
     readonly property alias settingsButton: gear
 
     signal galleryRequested
+    // By a key on one of the controls.
+    signal menuRequested(Item opener)
 
     height: 24
+    Keys.onPressed: event => {
+        const shiftF10 = event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier);
+        event.accepted = event.key === Qt.Key_Menu || shiftF10;
+        if (event.accepted)
+            menuRequested(Window.activeFocusItem);
+    }
 
     Row {
         anchors.left: parent.left
@@ -56,7 +64,7 @@ Item {
                 weight: Font.DemiBold
                 color: root.colors.accent
                 Accessible.role: Accessible.Indicator
-                Accessible.name: "Do Not Disturb"
+                Accessible.name: qsTr("Do Not Disturb")
             }
             Symbol {
                 anchors.verticalCenter: parent.verticalCenter
@@ -66,7 +74,7 @@ Item {
                 weight: Font.DemiBold
                 color: root.status.mutedColor
                 Accessible.role: Accessible.Indicator
-                Accessible.name: "Microphone muted"
+                Accessible.name: qsTr("Microphone muted")
             }
         }
 
@@ -132,7 +140,7 @@ Item {
                 height: 16
                 symbol: "plus.circle.fill"
                 symbolSize: 12
-                label: "Add page"
+                label: qsTr("Add page")
                 color: root.colors.textSecondary
                 onClicked: root.scene.pageControls.addPage()
 

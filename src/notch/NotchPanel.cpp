@@ -68,7 +68,11 @@ void NotchPanel::setFrame(const Rect &frame, bool animate)
     if (!m_contentVisible)
         m_surface.setSensor(m_frame);
     if (jump) {
+        const Rect before = m_extent;
         settle();
+        // The primary screen may have moved: the same coordinates are another place then.
+        if (m_extent == before)
+            m_surface.setExtent(m_extent);
         return;
     }
     m_from = m_displayed;
@@ -114,6 +118,13 @@ void NotchPanel::removePopover(QObject &owner)
     disconnect(&owner, &QObject::destroyed, this, nullptr);
     if (m_popovers.remove(&owner) > 0)
         updateOutlines();
+}
+
+void NotchPanel::removePopovers()
+{
+    const QList<QObject *> owners = m_popovers.keys();
+    for (QObject *owner : owners)
+        removePopover(*owner);
 }
 
 bool NotchPanel::contains(Point point, double margin) const
@@ -201,6 +212,10 @@ void NotchPanel::setExtent(const Rect &extent)
 {
     if (extent == m_extent)
         return;
+    // Popovers stand where they stood in the surface.
+    for (Rect &popover : m_popovers)
+        popover = {popover.x + extent.x - m_extent.x, popover.y + extent.maxY() - m_extent.maxY(),
+                   popover.width, popover.height};
     m_extent = extent;
     m_surface.setExtent(extent);
     updateOutlines();

@@ -44,6 +44,8 @@ public:
 
     /// What is drawn now, in the surface's own coordinates: origin at its top left, y downwards.
     QRectF pane() const;
+    /// A place on the screen, in the surface's own coordinates.
+    QPointF inSurface(Point place) const { return local({place.x, place.y, 0, 0}).topLeft(); }
     /// The height that the content is laid out for: that of the open panel, also while it is growing or
     /// shrinking.
     double openHeight() const { return m_openHeight; }
@@ -61,6 +63,7 @@ public:
     /// destroyed takes its popover with it.
     void setPopoverFrame(QObject &owner, const Rect &frame);
     void removePopover(QObject &owner);
+    void removePopovers();
     /// The same for views, in the surface's coordinates; an empty rectangle takes the popover away.
     Q_INVOKABLE void showPopover(QObject *owner, const QRectF &local);
     /// Room for the heads-up display under the collapsed strip: the surface is grown for it as long as it is

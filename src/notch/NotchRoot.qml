@@ -14,6 +14,11 @@ Item {
     readonly property NotchPanel panel: scene.panel
     readonly property theme colors: scene.theme.shown
 
+    // Who uses keys goes on from what had opened a menu.
+    function focusAfter(opener: Item): void {
+        (opener && InputModality.isKeyboard ? opener : content).forceActiveFocus(Qt.TabFocusReason);
+    }
+
     Item {
         id: pane
 
@@ -80,6 +85,7 @@ Item {
                     scene: root.scene // qmllint disable unqualified
                     controller: root.controller // qmllint disable unqualified
                     focus: true
+                    onStatusMenuRequested: (opener, position) => statusMenu.openAt(mapToItem(root, position), opener) // qmllint disable unqualified
                     onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
                 }
             }
@@ -135,10 +141,29 @@ Item {
         theme: root.scene.theme
         onMenuRectChanged: root.panel.showPopover(menu, menuRect)
         onSizesRectChanged: root.panel.showPopover(sizes, sizesRect)
-        onClosed: (InputModality.isKeyboard ? opener : content).forceActiveFocus()
+        onClosed: root.focusAfter(opener)
 
         QtObject {
             id: sizes
+        }
+    }
+    StatusMenu {
+        id: statusMenu
+
+        anchors.fill: parent
+        entries: root.scene.statusMenu
+        viewState: root.scene.viewModel
+        theme: root.scene.theme
+        onMenuRectChanged: root.panel.showPopover(statusMenu, menuRect)
+        onClosed: root.focusAfter(opener)
+
+        Connections {
+            target: root.controller
+
+            function onStatusMenuRequested(place) {
+                InputModality.pointed();
+                statusMenu.openAt(place, null);
+            }
         }
     }
 }

@@ -10,6 +10,7 @@
 #include "notch/NotchPanel.h"
 #include "notch/NotchViewModel.h"
 #include "notch/PageControls.h"
+#include "notch/PanelMenu.h"
 #include "notch/SystemStatusMonitor.h"
 #include "theme/ThemeStore.h"
 #include "update/UpdateService.h"
@@ -52,6 +53,7 @@ class NotchScene : public QObject
     Q_PROPERTY(brimlight::WidgetCatalog *catalog READ catalog CONSTANT)
     Q_PROPERTY(brimlight::HUDFace *hud READ hud CONSTANT)
     Q_PROPERTY(brimlight::PageControls *pageControls READ pageControls CONSTANT)
+    Q_PROPERTY(brimlight::PanelMenu *statusMenu READ statusMenu CONSTANT)
 
 public:
     NotchScene(const NotchSceneStores &stores, NotchPanel &panel);
@@ -69,6 +71,7 @@ public:
     WidgetCatalog *catalog() { return &m_catalog; }
     HUDFace *hud() { return &m_hud; }
     PageControls *pageControls() { return &m_pageControls; }
+    PanelMenu *statusMenu() { return &m_statusMenu; }
     Motion &motion() { return m_stores.motion; }
 
 private:
@@ -78,6 +81,7 @@ private:
     GridDrag m_gridDrag;
     WidgetCatalog m_catalog;
     PageControls m_pageControls;
+    PanelMenu m_statusMenu;
     HUDFace m_hud;
 };
 

@@ -73,12 +73,23 @@ void NotchWindow::host(NotchScene &scene, NotchController &controller)
 {
     m_translator = std::make_unique<UiTranslator>(*scene.appSettings());
     connect(scene.appSettings(), &AppSettings::languageChanged, &m_engine, &QQmlEngine::retranslate);
+    connect(scene.viewModel(), &NotchViewModel::geometryChanged, this,
+            [this, &screen = *scene.viewModel()] { followHousing(screen.hasNotch()); });
     scene.motion().installOn(m_engine);
     m_view.setInitialProperties({{QStringLiteral("scene"), QVariant::fromValue(&scene)},
                                  {QStringLiteral("controller"), QVariant::fromValue(&controller)}});
     m_view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Brimlight/Notch/NotchRoot.qml")));
     const int modality = qmlTypeId("Brimlight.Theme", 1, 0, "InputModality");
     m_engine.singletonInstance<InputModality *>(modality)->watch(m_view);
+}
+
+void NotchWindow::followHousing(bool hasNotch)
+{
+    const Housing housing = hasNotch ? Housing::present : Housing::absent;
+    if (!m_translator || housing == m_translator->housing())
+        return;
+    m_translator->setHousing(housing);
+    m_engine.retranslate();
 }
 
 void NotchWindow::unhost()

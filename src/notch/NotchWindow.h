@@ -32,6 +32,8 @@ public:
 
 private:
     void followFocus();
+    /// Texts speak of a notch only where there is one.
+    void followHousing(bool hasNotch);
     void leaveControl();
 
     QQmlEngine m_engine;

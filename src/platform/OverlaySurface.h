@@ -57,6 +57,10 @@ public:
         std::function<void()> exited;
         /// A click on the sensor while nothing is drawn there.
         std::function<void()> tapped;
+        /// The same with the right button, when it goes down.
+        std::function<void()> menuRequested;
+        /// Escape was pressed while it is watched for.
+        std::function<void()> escapePressed;
         /// Returns true when the event is used up and must not reach the content.
         std::function<bool(const ScrollEvent &)> scrolled;
         /// `backdrop` answers differently from now on.
@@ -67,11 +71,15 @@ public:
 
     virtual void setEvents(Events events) = 0;
     virtual void orderFront() = 0;
+    /// Logical coordinates count from the primary screen as it is now: when that has moved, an equal extent
+    /// is set again.
     virtual void setExtent(const Rect &extent) = 0;
     virtual void setOutlines(const std::vector<SurfaceOutline> &outlines) = 0;
     virtual void setSensor(const Rect &strip) = 0;
     /// True while a text field of the content wants keys; false gives the keyboard back to where it was.
     virtual void setWantsKeyboard(bool wants) = 0;
+    /// Asks for Escape, and for no other key, though the keyboard is elsewhere. Not every session grants it.
+    virtual void setWatchesEscape(bool watches) = 0;
     virtual SurfaceBackdrop backdrop() const = 0;
 };
 

@@ -118,7 +118,7 @@ ScrollArea {
         colors: root.colors
 
         Hint {
-            text: qsTr("Controls update speed of active widgets in the expanded notch. Slower updates conserve MacBook battery.")
+            text: qsTr("Controls update speed of active widgets in the expanded notch. Slower updates conserve your computer's battery.")
         }
         MenuPicker {
             width: parent.width

@@ -34,6 +34,8 @@ Item {
     }
 
     implicitHeight: Math.max(26, caption.height)
+    // The settings go, with the panel or before it.
+    onEnabledChanged: popup.visible = popup.visible && enabled
 
     Text {
         id: caption

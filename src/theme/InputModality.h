@@ -18,6 +18,8 @@ public:
     /// What was pressed last in the watched window was a key; true before the first press.
     bool isKeyboard() const { return m_isKeyboard; }
     void watch(QObject &window) { window.installEventFilter(this); }
+    /// The user has pointed at something that the window itself does not feel.
+    Q_INVOKABLE void pointed() { setKeyboard(false); }
 
 Q_SIGNALS:
     void changed();

@@ -22,7 +22,8 @@ protected:
     {
         start();
         pointer.where = farAway;
-        statusBar.emplace(*controller, stores->loginItem, stores->updater, statusItem, [this] { ++quits; });
+        statusBar.emplace(*controller, *notch->scene.statusMenu(), stores->loginItem, stores->updater,
+                          statusItem, [this] { ++quits; });
     }
 
     QStringList titles() const
@@ -62,7 +63,8 @@ TEST_F(StatusBar, MenuIsPlainEnglishInEveryLanguage)
     const QStringList english = titles();
     defaults.values.insert(QStringLiteral("brimlight.language"), QStringLiteral("de"));
     start();
-    statusBar.emplace(*controller, stores->loginItem, stores->updater, statusItem, [] {});
+    statusBar.emplace(*controller, *notch->scene.statusMenu(), stores->loginItem, stores->updater, statusItem,
+                      [] {});
     EXPECT_EQ(titles(), english);
 }
 

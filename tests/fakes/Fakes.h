@@ -245,6 +245,7 @@ public:
     void setOutlines(const std::vector<SurfaceOutline> &newOutlines) override { outlines = newOutlines; }
     void setSensor(const Rect &strip) override { sensor = strip; }
     void setWantsKeyboard(bool wants) override { wantsKeyboard = wants; }
+    void setWatchesEscape(bool watches) override { watchesEscape = watches; }
     SurfaceBackdrop backdrop() const override { return currentBackdrop; }
 
     Rect extent() const { return extents.empty() ? Rect{} : extents.back(); }
@@ -255,6 +256,7 @@ public:
     std::vector<SurfaceOutline> outlines;
     Rect sensor;
     bool wantsKeyboard = false;
+    bool watchesEscape = false;
     SurfaceBackdrop currentBackdrop = SurfaceBackdrop::opaque;
 };
 

@@ -113,6 +113,34 @@ TEST_F(Panel, MovingToAnotherScreenIsNotAnimated)
     EXPECT_EQ(surface.outlines.front().frame.x, 2000);
 }
 
+TEST_F(Panel, IsPlacedAgainWhereTheSameCoordinatesAreAnotherPlace)
+{
+    for (const Rect &frame : {strip, open}) {
+        panel.setContentVisible(frame == open);
+        panel.setFrame(frame, false);
+        const size_t before = surface.extents.size();
+        panel.setFrame(frame, false);
+        ASSERT_EQ(surface.extents.size(), before + 1);
+        EXPECT_EQ(surface.extents[before], surface.extents[before - 1]);
+    }
+}
+
+TEST_F(Panel, APopoverMovesWithThePanel)
+{
+    expand();
+    QObject owner;
+    panel.showPopover(&owner, {300, 50, 100, 80});
+    const Rect before = surface.outlines.back().frame;
+    Rect moved = open;
+    moved.x += 1440;
+    moved.y += 200;
+    panel.setFrame(moved, false);
+    const Rect after{before.x + 1440, before.y + 200, 100, 80};
+    EXPECT_EQ(surface.outlines.back().frame, after);
+    EXPECT_TRUE(panel.contains({after.midX(), after.y}, 0));
+    EXPECT_FALSE(panel.contains({before.midX(), before.y}, 0));
+}
+
 TEST_F(Panel, AHitTestGrowsByItsMargin)
 {
     EXPECT_TRUE(panel.contains({614, 880}, 6));

@@ -157,18 +157,32 @@ TEST_F(Walkthrough, TheFirstStepHasNoBackAndTheLastNoSkip)
     EXPECT_TRUE(model().onboardingCompleted());
 }
 
-class WalkthroughIn : public Walkthrough, public testing::WithParamInterface<AppLanguage>
+class WalkthroughIn : public Walkthrough, public testing::WithParamInterface<std::tuple<AppLanguage, Housing>>
 {
+protected:
+    QString shown(const QString &text) const
+    {
+        return translate(text, std::get<AppLanguage>(GetParam()), std::get<Housing>(GetParam()));
+    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Languages, WalkthroughIn,
-                         testing::Values(AppLanguage::english, AppLanguage::german, AppLanguage::french,
-                                         AppLanguage::spanish, AppLanguage::italian),
-                         [](const auto &info) { return rawValue(info.param).toStdString(); });
+                         testing::Combine(testing::ValuesIn(allLanguages),
+                                          testing::Values(Housing::absent, Housing::present)),
+                         [](const auto &info) {
+                             const bool housed = std::get<Housing>(info.param) == Housing::present;
+                             return rawValue(std::get<AppLanguage>(info.param)).toStdString() +
+                                    (housed ? "OnAHousing" : "OnAPlainEdge");
+                         });
 
 TEST_P(WalkthroughIn, ALanguageInTheDefaultsChangesAllTexts)
 {
-    defaults.values.insert(QStringLiteral("brimlight.language"), rawValue(GetParam()));
+    if (std::get<Housing>(GetParam()) == Housing::present) {
+        screens.list.front().safeAreaTop = 38;
+        screens.list.front().auxiliaryTopLeftArea = Rect{0, 862, 620, 38};
+        screens.list.front().auxiliaryTopRightArea = Rect{820, 862, 620, 38};
+    }
+    defaults.values.insert(QStringLiteral("brimlight.language"), rawValue(std::get<AppLanguage>(GetParam())));
     start();
     open();
     OnboardingSteps steps;
@@ -181,12 +195,30 @@ TEST_P(WalkthroughIn, ALanguageInTheDefaultsChangesAllTexts)
             expected.insert(QStringLiteral("Back"));
         QSet<QString> translated;
         for (const QString &text : expected)
-            translated.insert(translate(text, GetParam()));
+            translated.insert(shown(text));
         const QStringList texts = scene.texts();
         EXPECT_EQ(QSet(texts.begin(), texts.end()), translated) << step;
         if (!steps.isLast())
-            press(translate(QStringLiteral("Next"), GetParam()));
+            press(shown(QStringLiteral("Next")));
     }
+}
+
+TEST_F(Walkthrough, SpeaksOfTheHousingOfTheScreenThatItIsOn)
+{
+    const auto speaksOf = [this](const char *word) {
+        return scene.texts().join(QLatin1Char(' ')).contains(QLatin1String(word));
+    };
+    start();
+    open();
+    EXPECT_TRUE(speaksOf("top edge of your screen"));
+    EXPECT_FALSE(speaksOf("notch"));
+    screens.list.front().safeAreaTop = 38;
+    screens.list.front().auxiliaryTopLeftArea = Rect{0, 862, 620, 38};
+    screens.list.front().auxiliaryTopRightArea = Rect{820, 862, 620, 38};
+    screens.notify();
+    settle();
+    EXPECT_TRUE(speaksOf("camera notch"));
+    EXPECT_FALSE(speaksOf("top edge"));
 }
 
 class SettingsPanel : public PanelView

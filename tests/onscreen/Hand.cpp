@@ -25,11 +25,22 @@ void Hand::clickAt(QPoint point, uint8_t button) const
 
 void Hand::drag(QPoint from, QPoint to) const
 {
+    dragAndHold(from, to);
+    release();
+}
+
+void Hand::dragAndHold(QPoint from, QPoint to) const
+{
     constexpr int steps = 20;
     moveTo(from);
     fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
     for (int i = 1; i <= steps; ++i)
         moveTo(from + (to - from) * i / steps, milliseconds(15));
+    m_x.flush();
+}
+
+void Hand::release() const
+{
     fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
     m_x.flush();
 }

@@ -21,6 +21,9 @@ public:
     void clickAt(QPoint point, uint8_t button = 1) const;
     /// With the left button, in the small steps of a hand.
     void drag(QPoint from, QPoint to) const;
+    /// The same without letting go, and letting go.
+    void dragAndHold(QPoint from, QPoint to) const;
+    void release() const;
     /// Wheel steps without a pause: button 4 is up, 5 down, 6 left, 7 right.
     void scroll(uint8_t button, int steps) const;
     void typeKey(uint32_t keysym) const;

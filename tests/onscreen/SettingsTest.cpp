@@ -123,7 +123,7 @@ TEST_P(Settings, APresetAndAColorHoldAfterARestart)
     EXPECT_TRUE(waitUntil([this] { return theme()[u"id"].toString() == u"ocean"; }));
 
     scrollToColors();
-    press(u"push button"_s, u"Notch Surface"_s);
+    press(u"push button"_s, u"Panel Surface"_s);
     ASSERT_TRUE(shows(u"text"_s, u"Hex value"_s));
     reader->grabFocus(*reader->find(u"text"_s, u"Hex value"_s));
     ASSERT_TRUE(waitUntil([this] { return reader->focus() == u"text Hex value"; }));

@@ -116,7 +116,7 @@ TEST_F(SettingsView, OpensOnTheTabGeneralWithItsCardsInOrder)
               (QStringList{QStringLiteral("General"), QStringLiteral("Appearance")}));
     EXPECT_EQ(scene.namesOf(QAccessible::Heading),
               (QStringList{QStringLiteral("Startup"), QStringLiteral("Clock & Units"),
-                           QStringLiteral("Language"), QStringLiteral("Notch Trigger"),
+                           QStringLiteral("Language"), QStringLiteral("Panel Trigger"),
                            QStringLiteral("Performance"), QStringLiteral("Software Update")}));
     showAppearance();
     EXPECT_EQ(scene.namesOf(QAccessible::Heading),
@@ -330,7 +330,7 @@ TEST_F(SettingsView, ACustomThemeShowsNoMarkedSwatchAndTheResetMarksMidnight)
 TEST_F(SettingsView, AColorIsPickedByItsSliders)
 {
     showAppearance();
-    click(QAccessible::Button, QStringLiteral("Notch Surface"));
+    click(QAccessible::Button, QStringLiteral("Panel Surface"));
     click(QAccessible::Slider, QStringLiteral("Opacity"));
     EXPECT_EQ(theme.current().id, QStringLiteral("custom"));
     EXPECT_NEAR(theme.current().surface.opacity, 0.5, 0.02);

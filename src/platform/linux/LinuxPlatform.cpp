@@ -55,6 +55,7 @@ public:
     void setOutlines(const std::vector<SurfaceOutline> &) override {}
     void setSensor(const Rect &) override {}
     void setWantsKeyboard(bool) override {}
+    void setWatchesEscape(bool) override {}
     SurfaceBackdrop backdrop() const override { return SurfaceBackdrop::translucent; }
 
 private:

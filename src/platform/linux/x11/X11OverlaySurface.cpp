@@ -76,6 +76,11 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     , m_overChanged(std::move(overChanged))
     , m_sensor(connection)
     , m_keyboard(connection, static_cast<xcb_window_t>(window.winId()))
+    , m_escape(connection,
+               [this] {
+                   if (m_events.escapePressed)
+                       m_events.escapePressed();
+               })
     , m_stacking(connection, scheduler, [this] { raise(); })
     , m_blur(connection, static_cast<xcb_window_t>(window.winId()), [this] { backdropMayHaveChanged(); })
     , m_touchpad(connection)
@@ -254,6 +259,9 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
                 m_events.tapped();
         }
     }
+    if (onSensor && event.event_type == XCB_INPUT_BUTTON_PRESS && event.detail == XCB_BUTTON_INDEX_3 &&
+        m_events.menuRequested)
+        m_events.menuRequested();
     return onSensor;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/linux/x11/TouchpadScroll.h"
 #include "platform/linux/x11/X11BlurBehind.h"
 #include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11EscapeKey.h"
 #include "platform/linux/x11/X11KeyboardFocus.h"
 #include "platform/linux/x11/X11Sensor.h"
 #include "platform/linux/x11/X11Stacking.h"
@@ -35,6 +36,7 @@ public:
     void setOutlines(const std::vector<SurfaceOutline> &outlines) override;
     void setSensor(const Rect &strip) override;
     void setWantsKeyboard(bool wants) override;
+    void setWatchesEscape(bool watches) override { m_escape.setWatched(watches); }
     SurfaceBackdrop backdrop() const override;
 
 protected:
@@ -66,6 +68,7 @@ private:
     Events m_events;
     X11Sensor m_sensor;
     X11KeyboardFocus m_keyboard;
+    X11EscapeKey m_escape;
     X11Stacking m_stacking;
     X11BlurBehind m_blur;
     SurfaceBackdrop m_backdrop = SurfaceBackdrop::opaque;
