@@ -170,10 +170,10 @@ constexpr Row obstacleRows[] = {
     {{u"This switch is not supported here.", u"Dieser Schalter wird hier nicht unterstützt.", u"Ce réglage n'est pas disponible ici.", u"Este interruptor no es compatible aquí.", u"Questo interruttore non è supportato qui."}},
     {{u"No audio output was found.", u"Keine Audioausgabe gefunden.", u"Aucune sortie audio trouvée.", u"No se encontró ninguna salida de audio.", u"Nessuna uscita audio trovata."}},
     {{u"This desktop has no dark mode to switch.", u"Dieser Desktop hat keinen umschaltbaren Dunkelmodus.", u"Ce bureau n'a pas de mode sombre à activer.", u"Este escritorio no tiene un modo oscuro que cambiar.", u"Questo desktop non ha una modalità scura da attivare."}},
-    {{u"Dark mode is locked by the administrator.", u"Der Dunkelmodus ist vom Administrator gesperrt.", u"Le mode sombre est verrouillé par l'administrateur.", u"El administrador ha bloqueado el modo oscuro.", u"La modalità scura è bloccata dall'amministratore."}},
-    {{u"Plasma's color scheme tool is not installed.", u"Plasmas Werkzeug für Farbschemata ist nicht installiert.", u"L'outil de Plasma pour les jeux de couleurs n'est pas installé.", u"La herramienta de esquemas de color de Plasma no está instalada.", u"Lo strumento di Plasma per gli schemi di colore non è installato."}},
+    {{u"Dark mode is locked by the administrator.", u"Der Dunkelmodus ist vom Administrator gesperrt.", u"L'administrateur a verrouillé le mode sombre.", u"El administrador ha bloqueado el modo oscuro.", u"La modalità scura è bloccata dall'amministratore."}},
+    {{u"Plasma's color scheme tool is missing.", u"Plasmas Werkzeug für Farbschemata fehlt.", u"L'outil de couleurs de Plasma est absent.", u"Falta la herramienta de color de Plasma.", u"Manca lo strumento colori di Plasma."}},
     {{u"There is no trash yet.", u"Es gibt noch keinen Papierkorb.", u"Il n'y a pas encore de corbeille.", u"Aún no hay papelera.", u"Non c'è ancora un cestino."}},
-    {{u"Nothing here can keep the display awake.", u"Nichts kann hier den Bildschirm wach halten.", u"Rien ici ne peut garder l'écran allumé.", u"Nada aquí puede mantener la pantalla encendida.", u"Nulla qui può tenere acceso lo schermo."}},
+    {{u"Nothing keeps the display awake here.", u"Nichts hält hier den Bildschirm wach.", u"Rien ici ne garde l'écran allumé.", u"Nada mantiene aquí la pantalla encendida.", u"Nulla qui tiene acceso lo schermo."}},
 };
 // clang-format on
 

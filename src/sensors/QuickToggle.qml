@@ -80,7 +80,8 @@ AbstractButton {
         x: root.size === "small" ? centred : Math.max(-root.x, Math.min(centred, root.parent.width - root.x - width))
         anchors.bottom: disc.top
         anchors.bottomMargin: 3
-        maximumWidth: 116
+        // At the edge of the panel there is no room for more.
+        maximumWidth: root.size === "small" ? 104 : 136
         text: root.obstacle
         shown: root.lit && !root.works
         colors: root.colors

@@ -57,11 +57,11 @@ QString QuickTogglesStore::reason(const std::optional<Obstacle> &obstacle)
     case Obstacle::lockedColorScheme:
         return QStringLiteral("Dark mode is locked by the administrator.");
     case Obstacle::noColorSchemeTool:
-        return QStringLiteral("Plasma's color scheme tool is not installed.");
+        return QStringLiteral("Plasma's color scheme tool is missing.");
     case Obstacle::noTrash:
         return QStringLiteral("There is no trash yet.");
     case Obstacle::nothingKeepsAwake:
-        return QStringLiteral("Nothing here can keep the display awake.");
+        return QStringLiteral("Nothing keeps the display awake here.");
     }
     Q_UNREACHABLE();
 }
