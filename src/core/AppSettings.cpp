@@ -34,17 +34,17 @@ QString hoverDelayKey()
     return QStringLiteral("brimlight.hoverDelay");
 }
 
-constexpr EnumTexts<RefreshRate, 4> rawValues{{{{RefreshRate::live, u"live"},
+constexpr EnumTexts<RefreshRate, 4> rateTexts{{{{RefreshRate::live, u"live"},
                                                 {RefreshRate::balanced, u"balanced"},
                                                 {RefreshRate::efficient, u"efficient"},
                                                 {RefreshRate::saver, u"saver"}}}};
-static_assert(rawValues.covers(allRefreshRates));
+static_assert(rateTexts.covers(allRefreshRates));
 
-constexpr EnumTexts<RefreshRate, 4> labels{{{{RefreshRate::live, u"Live · 0.5 s"},
-                                             {RefreshRate::balanced, u"Balanced · 1 s"},
-                                             {RefreshRate::efficient, u"Efficient · 2 s"},
-                                             {RefreshRate::saver, u"Power Saver · 5 s"}}}};
-static_assert(labels.covers(allRefreshRates));
+constexpr EnumTexts<RefreshRate, 4> rateLabels{{{{RefreshRate::live, u"Live · 0.5 s"},
+                                                 {RefreshRate::balanced, u"Balanced · 1 s"},
+                                                 {RefreshRate::efficient, u"Efficient · 2 s"},
+                                                 {RefreshRate::saver, u"Power Saver · 5 s"}}}};
+static_assert(rateLabels.covers(allRefreshRates));
 
 QDateTime inZone(const QDateTime &date, const std::optional<QTimeZone> &zone)
 {
@@ -55,17 +55,17 @@ QDateTime inZone(const QDateTime &date, const std::optional<QTimeZone> &zone)
 
 QString rawValue(RefreshRate rate)
 {
-    return rawValues.text(rate);
+    return rateTexts.text(rate);
 }
 
 std::optional<RefreshRate> refreshRateFromRawValue(const QString &raw)
 {
-    return rawValues.value(raw);
+    return rateTexts.value(raw);
 }
 
 QString label(RefreshRate rate)
 {
-    return labels.text(rate);
+    return rateLabels.text(rate);
 }
 
 AppSettings::AppSettings(UserDefaults &defaults, QObject *parent)

@@ -8,19 +8,19 @@
 namespace brimlight {
 namespace {
 
-constexpr EnumTexts<AppLanguage, 5> rawValues{{{{AppLanguage::english, u"en"},
-                                                {AppLanguage::german, u"de"},
-                                                {AppLanguage::french, u"fr"},
-                                                {AppLanguage::spanish, u"es"},
-                                                {AppLanguage::italian, u"it"}}}};
-static_assert(rawValues.covers(allLanguages));
+constexpr EnumTexts<AppLanguage, 5> languageTexts{{{{AppLanguage::english, u"en"},
+                                                    {AppLanguage::german, u"de"},
+                                                    {AppLanguage::french, u"fr"},
+                                                    {AppLanguage::spanish, u"es"},
+                                                    {AppLanguage::italian, u"it"}}}};
+static_assert(languageTexts.covers(allLanguages));
 
-constexpr EnumTexts<AppLanguage, 5> labels{{{{AppLanguage::english, u"English"},
-                                             {AppLanguage::german, u"Deutsch"},
-                                             {AppLanguage::french, u"Français"},
-                                             {AppLanguage::spanish, u"Español"},
-                                             {AppLanguage::italian, u"Italiano"}}}};
-static_assert(labels.covers(allLanguages));
+constexpr EnumTexts<AppLanguage, 5> languageLabels{{{{AppLanguage::english, u"English"},
+                                                     {AppLanguage::german, u"Deutsch"},
+                                                     {AppLanguage::french, u"Français"},
+                                                     {AppLanguage::spanish, u"Español"},
+                                                     {AppLanguage::italian, u"Italiano"}}}};
+static_assert(languageLabels.covers(allLanguages));
 
 struct Row
 {
@@ -212,17 +212,17 @@ const QHash<QString, const Row *> &edgeRowsByKey()
 
 QString rawValue(AppLanguage language)
 {
-    return rawValues.text(language);
+    return languageTexts.text(language);
 }
 
 std::optional<AppLanguage> languageFromRawValue(const QString &raw)
 {
-    return rawValues.value(raw);
+    return languageTexts.value(raw);
 }
 
 QString label(AppLanguage language)
 {
-    return labels.text(language);
+    return languageLabels.text(language);
 }
 
 QStringList translationKeys()

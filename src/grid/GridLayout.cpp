@@ -19,14 +19,14 @@ constexpr Span span(WidgetSize size)
     return spans.at(static_cast<size_t>(size));
 }
 
-constexpr EnumTexts<WidgetSize, 7> rawValues{{{{WidgetSize::small, u"small"},
+constexpr EnumTexts<WidgetSize, 7> sizeTexts{{{{WidgetSize::small, u"small"},
                                                {WidgetSize::tall, u"tall"},
                                                {WidgetSize::wide, u"wide"},
                                                {WidgetSize::large, u"large"},
                                                {WidgetSize::banner, u"banner"},
                                                {WidgetSize::wideTall, u"wideTall"},
                                                {WidgetSize::huge, u"huge"}}}};
-static_assert(rawValues.covers(allWidgetSizes));
+static_assert(sizeTexts.covers(allWidgetSizes));
 
 } // namespace
 
@@ -42,12 +42,12 @@ int rowSpan(WidgetSize size)
 
 QString rawValue(WidgetSize size)
 {
-    return rawValues.text(size);
+    return sizeTexts.text(size);
 }
 
 std::optional<WidgetSize> widgetSizeFromRawValue(const QString &raw)
 {
-    return rawValues.value(raw);
+    return sizeTexts.value(raw);
 }
 
 GridLayout GridLayout::defaultLayout()

@@ -5,17 +5,18 @@
 namespace brimlight {
 namespace {
 
-constexpr EnumTexts<WidgetPermission, 5> rawValues{{{{WidgetPermission::calendar, u"calendar"},
-                                                     {WidgetPermission::reminders, u"reminders"},
-                                                     {WidgetPermission::weather, u"weather"},
-                                                     {WidgetPermission::microphone, u"microphone"},
-                                                     {WidgetPermission::accessibility, u"accessibility"}}}};
+constexpr EnumTexts<WidgetPermission, 5> permissionTexts{
+    {{{WidgetPermission::calendar, u"calendar"},
+      {WidgetPermission::reminders, u"reminders"},
+      {WidgetPermission::weather, u"weather"},
+      {WidgetPermission::microphone, u"microphone"},
+      {WidgetPermission::accessibility, u"accessibility"}}}};
 
 } // namespace
 
 QString rawValue(WidgetPermission permission)
 {
-    return rawValues.text(permission);
+    return permissionTexts.text(permission);
 }
 
 } // namespace brimlight

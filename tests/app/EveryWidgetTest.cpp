@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QQuickWindow>
+#include <algorithm>
 
 namespace brimlight::test {
 namespace {

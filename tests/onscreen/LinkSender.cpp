@@ -49,7 +49,7 @@ int main(int argc, char *argv[])
             }
         }
         uint64_t steps = 0;
-        if (::read(timer, &steps, sizeof steps) != sizeof steps)
+        if (::read(timer, &steps, sizeof steps) != static_cast<ssize_t>(sizeof steps))
             return 1;
     }
     return 0;

@@ -9,8 +9,8 @@ class QWindow;
 
 namespace brimlight {
 
-/// The real backends of all ports. Built once, after the application object. Its end waits until every file is
-/// written.
+/// The real backends of all ports. Built once, after the application object. Its end waits until every file
+/// is written.
 class LinuxPlatform
 {
 public:
