@@ -62,16 +62,6 @@ void XClient::splitMonitors(const QRect &primary, const QRect &rest)
     sync();
 }
 
-void XClient::movePrimaryMonitor(const QRect &to)
-{
-    xcb_grab_server(m_xcb);
-    xcb_randr_delete_monitor(m_xcb, root(), atom("primary"));
-    // Programs do not notice a monitor of the same name.
-    setMonitor("moved", to, true, XCB_NONE);
-    xcb_ungrab_server(m_xcb);
-    sync();
-}
-
 void XClient::joinMonitors()
 {
     for (const char *name : {"primary", "rest"})

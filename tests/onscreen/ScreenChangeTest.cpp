@@ -86,45 +86,5 @@ TEST_P(ScreenChange, FollowsThePrimaryMonitor)
     EXPECT_TRUE(waitForOpen());
 }
 
-TEST_P(ScreenChange, AnOpenPanelFollowsThePrimaryMonitorThatMovesAtEqualSize)
-{
-    const QRect rest(0, 0, 700, 982);
-    const QRect before(700, 0, 812, 600);
-    const QRect after(700, 382, 812, 600);
-    const auto placedOn = [&](const QRect &monitor) {
-        const QPoint middle(monitor.left() + monitor.width() / 2, monitor.top());
-        QRect where;
-        while (std::abs(where.center().x() - middle.x()) > 1) {
-            const auto line = panel->waitForLine(QString::fromLatin1(placed));
-            if (!line)
-                return QRect();
-            where = frameIn(*line, monitor);
-        }
-        return where;
-    };
-    x.splitMonitors(before, rest);
-    const QRect old = placedOn(before);
-    ASSERT_FALSE(old.isEmpty());
-    hand.clickAt(old.center());
-    ASSERT_TRUE(panel->waitForLine(QString::fromLatin1(opened)));
-
-    x.movePrimaryMonitor(after);
-    const QRect open = placedOn(after);
-    ASSERT_FALSE(open.isEmpty());
-    hand.moveTo({100, 900});
-    EXPECT_TRUE(waitUntil([&] { return isSeen(open, bare); }));
-    EXPECT_TRUE(waitUntil([&] { return changed(bare, {700, 0, 812, 300}) == 0; }));
-    keepPicture();
-
-    // It is as alive there as it was before.
-    hand.clickAt(open.topLeft() + QPoint(14, 100));
-    ASSERT_TRUE(waitForClose());
-    hand.moveTo({100, 900});
-    hand.moveTo(old.center());
-    EXPECT_TRUE(staysShut());
-    hand.moveTo({open.center().x(), after.top()});
-    EXPECT_TRUE(panel->waitForLine(QString::fromLatin1(opened)));
-}
-
 } // namespace
 } // namespace brimlight::onscreen

@@ -65,8 +65,6 @@ public:
     void setSize(QSize size);
     /// Makes `primary` a monitor of its own beside the one at the output, which keeps `rest`.
     void splitMonitors(const QRect &primary, const QRect &rest);
-    /// Puts that monitor elsewhere; nobody sees the screen without it.
-    void movePrimaryMonitor(const QRect &to);
     void joinMonitors();
 
 private:
