@@ -84,9 +84,52 @@ QString coretempFile(const Machine &machine, const char *file)
     return machine.hwmon(QStringLiteral("coretemp")) + u'/' + QLatin1String(file);
 }
 
+/// Leaves a laptop's chip with its four cores alone.
+void dropPackage(const Machine &machine)
+{
+    for (const char *file : {"temp1_input", "temp1_label"})
+        machine.remove(coretempFile(machine, file));
+}
+
+/// What the temperature widget would show while the sensors are being watched, and afterwards.
+std::vector<std::optional<double>> steadyCelsius(const Machine &machine)
+{
+    BoundedRead reader(ample);
+    HwmonSmc smc(reader, machine.sys());
+    FakeMachine info;
+    FakePowerSources power;
+    MemoryDefaults defaults;
+    RecordingLog log;
+    ManualScheduler scheduler;
+    const auto bridge = SMCBridge::open(smc, info, power, defaults, log, scheduler);
+    std::vector<std::optional<double>> celsius;
+    for (int reading = 0; bridge && reading < 3; ++reading) {
+        celsius.push_back(bridge->readTemperatureReading()->cpuMaxC);
+        scheduler.advance(60s);
+    }
+    return celsius;
+}
+
 } // namespace
 
-TEST(HwmonSmc, ALaptopGivesItsHottestCoreAndItsBattery)
+TEST(HwmonSmc, AHotCoreAmongManyIsThePackagesTemperature)
+{
+    const Machine machine(MachineKind::desktopHybrid);
+    EXPECT_EQ(steadyCelsius(machine), (std::vector<std::optional<double>>{95, 95, 95}));
+    machine.write(coretempFile(machine, "temp1_input"), "51000\n");
+    EXPECT_EQ(readingOf(machine)->cpuMaxC, 51) << "no core speaks for the package";
+}
+
+TEST(HwmonSmc, AHotDieAmongManyIsTheProcessorsTemperature)
+{
+    const Machine machine(MachineKind::serverEpyc);
+    EXPECT_EQ(steadyCelsius(machine), (std::vector<std::optional<double>>{84, 84, 84}));
+    EXPECT_EQ(Sensors(machine).keys(), QStringList{QStringLiteral("TC0P")});
+    machine.removeHwmon(QStringLiteral("k10temp"));
+    EXPECT_TRUE(readingOf(machine)->cpuMaxC) << "the others go on";
+}
+
+TEST(HwmonSmc, ALaptopGivesItsPackageAndItsBattery)
 {
     const auto intel = readingOf(Machine(MachineKind::laptopIntel));
     ASSERT_TRUE(intel);
@@ -124,11 +167,20 @@ TEST(HwmonSmc, ListsTheProcessorBeforeTheOthers)
 {
     const Machine machine(MachineKind::laptopIntel);
     const Sensors sensors(machine);
-    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("B0AT Tp00 Tp01 Tp02 Tp03 Tp04 Ts00 Ts01 Ts02"));
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("B0AT TC0P Ts00 Ts01 Ts02 Ts03 Ts04 Ts05 Ts06"));
+    EXPECT_EQ(sensors.celsius("TC0P"), 52) << "Package id 0";
+    EXPECT_NEAR(sensors.celsius("B0AT").value(), 29.8, 1e-5);
+}
+
+TEST(HwmonSmc, CoresCountWhereNothingSpeaksForThePackage)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
+    const Sensors sensors(machine);
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("B0AT Tp00 Tp01 Tp02 Tp03 Ts00 Ts01 Ts02"));
     EXPECT_EQ(sensors.celsius("Tp00"), 50) << "Core 0";
     EXPECT_EQ(sensors.celsius("Tp01"), 49) << "Core 1";
-    EXPECT_EQ(sensors.celsius("Tp04"), 52) << "Package id 0";
-    EXPECT_NEAR(sensors.celsius("B0AT").value(), 29.8, 1e-5);
+    EXPECT_EQ(readingOf(machine)->cpuMaxC, 52);
 }
 
 TEST(HwmonSmc, AnInfoSaysFloatForTheProcessorOnly)
@@ -138,7 +190,7 @@ TEST(HwmonSmc, AnInfoSaysFloatForTheProcessorOnly)
     const auto info = [&sensors](const char *key) {
         return sensors.connection->readKeyInfo(SmcLayout::code(key));
     };
-    EXPECT_EQ(info("Tp00"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
+    EXPECT_EQ(info("TC0P"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
     EXPECT_EQ(info("B0AT"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
     EXPECT_EQ(info("Ts00"), (SMCConnection::KeyInfo{2, SmcLayout::code("sp78"), 0}));
     EXPECT_FALSE(info("Ts99"));
@@ -191,7 +243,7 @@ TEST(HwmonSmc, TwoChipsOfANameAreToldApartByTheirDevices)
         for (int socket = 0; socket < 2; ++socket) {
             const QString device = QStringLiteral("sys/devices/platform/coretemp.%1").arg(socket);
             const QString chip = QStringLiteral("hwmon%1").arg(swapped ? 1 - socket : socket);
-            addChip(machine, chip, "coretemp", {{"Package", 40000 + 1000 * socket}});
+            addChip(machine, chip, "coretemp", {{"Core 0", 40000 + 1000 * socket}});
             machine.write(device + QStringLiteral("/modalias"), "platform:coretemp\n");
             ASSERT_TRUE(QFile::link(machine.path(device),
                                     machine.path(QStringLiteral("sys/class/hwmon/%1/device").arg(chip))));
@@ -229,16 +281,28 @@ TEST(HwmonSmc, FirmwareForAllPartsCountsByItsLabels)
     EXPECT_EQ(sensors.celsius("Tp01"), 55);
 }
 
-TEST(HwmonSmc, TheTrueDieTemperatureReplacesTheControlValue)
+TEST(HwmonSmc, TheTrueDieTemperatureComesBeforeTheControlValueAndBothBeforeTheChiplets)
+{
+    for (const char *chip : {"k10temp", "zenpower"}) {
+        const Machine machine(MachineKind::virtualMachine);
+        addChip(machine, QStringLiteral("hwmon0"), chip,
+                {{"Tctl", 75000}, {"Tdie", 48000}, {"Tccd1", 90000}});
+        EXPECT_EQ(Sensors(machine).keys().join(u' '), QStringLiteral("TC0P Ts00 Ts01"));
+        EXPECT_EQ(readingOf(machine)->cpuMaxC, 48) << "Tdie of " << chip;
+        addChip(machine, QStringLiteral("hwmon0"), chip, {{"Tctl", 75000}, {"Tccd1", 48000}});
+        machine.remove(QStringLiteral("sys/class/hwmon/hwmon0/temp3_label"));
+        EXPECT_EQ(readingOf(machine)->cpuMaxC, 75) << "Tctl of " << chip;
+    }
+}
+
+TEST(HwmonSmc, TheHottestOfTwoPackagesCounts)
 {
     const Machine machine(MachineKind::virtualMachine);
-    addChip(machine, QStringLiteral("hwmon0"), "k10temp",
-            {{"Tctl", 75000}, {"Tdie", 48000}, {"Tccd1", 47000}});
-    const Sensors sensors(machine);
-    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("Tp00 Tp01 Ts00"));
-    EXPECT_EQ(sensors.celsius("Tp00"), 47) << "Tccd1";
-    EXPECT_EQ(sensors.celsius("Tp01"), 48) << "Tdie";
-    EXPECT_EQ(readingOf(machine)->cpuMaxC, 48);
+    addChip(machine, QStringLiteral("hwmon0"), "coretemp", {{"Package id 0", 61000}, {"Core 0", 99000}});
+    addChip(machine, QStringLiteral("hwmon1"), "coretemp", {{"Package id 1", 72000}, {"Core 0", 40000}});
+    EXPECT_EQ(Sensors(machine).celsius("TC0P"), 72);
+    machine.write(QStringLiteral("sys/class/hwmon/hwmon1/temp1_input"), "gone\n");
+    EXPECT_EQ(Sensors(machine).celsius("TC0P"), 61);
 }
 
 TEST(HwmonSmc, ManySensorsHaveKeysOfTheirOwn)
@@ -260,6 +324,7 @@ TEST(HwmonSmc, ManySensorsHaveKeysOfTheirOwn)
 TEST(HwmonSmc, AFileThatVanishesHoldsGarbageOrFailsIsAFailure)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const Sensors sensors(machine);
     const QString core0 = coretempFile(machine, "temp2_input");
     for (const char *garbage : {"", "\n", "fifty\n", "50000 mC\n", "50.0\n", "99999999999999999999\n"}) {
@@ -280,6 +345,7 @@ TEST(HwmonSmc, AFileThatVanishesHoldsGarbageOrFailsIsAFailure)
 TEST(HwmonSmc, AChipThatComesBackUnderAnotherNumberIsNotMistaken)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const Sensors sensors(machine);
     const QString number = machine.hwmon(QStringLiteral("coretemp"));
     machine.removeHwmon(QStringLiteral("coretemp"));
@@ -290,6 +356,7 @@ TEST(HwmonSmc, AChipThatComesBackUnderAnotherNumberIsNotMistaken)
 TEST(HwmonSmc, AnImpossibleValueIsPassedOnAndDroppedInTheReading)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     machine.write(coretempFile(machine, "temp2_input"), "65273000\n");
     machine.write(coretempFile(machine, "temp3_input"), "-5000\n");
     EXPECT_EQ(Sensors(machine).celsius("Tp00"), 65273);
@@ -300,6 +367,7 @@ TEST(HwmonSmc, AnImpossibleValueIsPassedOnAndDroppedInTheReading)
 TEST(HwmonSmc, ASensorThatBlocksFailsAndTheOthersGoOn)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const Sensors sensors(machine, 250ms);
     const QString pipe = machine.makeBlocking(coretempFile(machine, "temp2_input"));
     EXPECT_FALSE(sensors.celsius("Tp00"));
@@ -313,6 +381,7 @@ TEST(HwmonSmc, ASensorThatBlocksFailsAndTheOthersGoOn)
 TEST(HwmonSmc, ASleepingDeviceIsNotRead)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const QString status = QStringLiteral("sys/devices/platform/coretemp.0/power/runtime_status");
     const Sensors sensors(machine, 250ms);
     EXPECT_EQ(sensors.celsius("Tp00"), 50);
@@ -335,6 +404,7 @@ TEST(HwmonSmc, ASleepingDeviceIsNotRead)
 TEST(HwmonSmc, ListingTheKeysDoesNotReadOtherPartsSensors)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     machine.makeBlocking(machine.hwmon(QStringLiteral("nvme")) + QStringLiteral("/temp1_input"));
     BoundedRead reader(ample);
     HwmonSmc smc(reader, machine.sys());
@@ -344,7 +414,7 @@ TEST(HwmonSmc, ListingTheKeysDoesNotReadOtherPartsSensors)
     RecordingLog log;
     ManualScheduler scheduler;
     EXPECT_TRUE(SMCBridge::open(smc, info, power, defaults, log, scheduler));
-    EXPECT_TRUE(log.messages().first().contains(QLatin1String("cpu=5, gpu=0")));
+    EXPECT_TRUE(log.messages().first().contains(QLatin1String("cpu=4, gpu=0")));
     EXPECT_EQ(reader.lateCount(), 0);
 }
 
@@ -377,6 +447,7 @@ TEST(HwmonSmc, CalibrationIsSkippedAtTheNextBootEvenWithOtherNumbers)
     ManualScheduler scheduler;
     for (const int boot : {0, 3}) {
         const Machine machine(MachineKind::laptopIntel, boot);
+        dropPackage(machine);
         machine.write(coretempFile(machine, "temp4_input"), "95000\n");
         BoundedRead reader(ample);
         HwmonSmc smc(reader, machine.sys());

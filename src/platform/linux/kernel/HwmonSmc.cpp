@@ -15,6 +15,7 @@ namespace {
 
 constexpr uint32_t countCode = SmcLayout::code("#KEY");
 constexpr uint32_t batteryCode = SmcLayout::code("B0AT");
+constexpr uint32_t packageCode = SmcLayout::code("TC0P");
 constexpr uint32_t floatType = SmcLayout::code("flt ");
 constexpr uint32_t integerType = SmcLayout::code("ui32");
 /// Signed, 8 bits before the point and 8 after it.
@@ -57,6 +58,19 @@ bool isMixedChip(const QString &name)
 {
     constexpr std::array drivers{"scpi_sensors", "macsmc", "macsmc_hwmon"};
     return isAnyOf(name, drivers);
+}
+
+/// Whether a sensor of a processor's chip speaks for all of the processor, and not for one of its cores. The
+/// better a label, the lower its rank; absent for a part.
+std::optional<int> packageRank(const QString &chip, const QString &label)
+{
+    if (chip == QLatin1String("coretemp"))
+        return label.startsWith(QLatin1String("Package id")) ? std::optional(0) : std::nullopt;
+    // What the fan control goes by stands off the true value on some processors.
+    constexpr std::array byTrueness{"Tdie", "Tctl"};
+    const auto found = std::find_if(byTrueness.begin(), byTrueness.end(),
+                                    [&label](const char *name) { return label == QLatin1String(name); });
+    return found == byTrueness.end() ? std::nullopt : std::optional(int(found - byTrueness.begin()));
 }
 
 bool isCpuLabel(const QString &label)
@@ -123,7 +137,14 @@ struct HwmonSmc::Sensor
     int number = 0;
     QString folder;
     bool isCpu = false;
+    /// Speaks for its whole processor; then no other sensor counts as the processor's.
+    bool isPackage = false;
 
+    Input input() const
+    {
+        return {.file = QStringLiteral("%1/temp%2_input").arg(folder).arg(number),
+                .runtimeStatus = folder + QStringLiteral("/device/power/runtime_status")};
+    }
     auto order() const { return std::tie(chip, device, label, number); }
 };
 
@@ -136,24 +157,35 @@ HwmonSmc::HwmonSmc(BoundedRead &reader, const QString &root)
 std::optional<uint32_t> HwmonSmc::open()
 {
     std::vector<Sensor> found = sensors();
-    // The processor's first: its keys do not depend on what else there is.
-    std::stable_partition(found.begin(), found.end(), [](const Sensor &sensor) { return sensor.isCpu; });
     m_keys.clear();
-    if (found.empty() || !found.front().isCpu)
+    if (std::none_of(found.begin(), found.end(), [](const Sensor &sensor) { return sensor.isCpu; }))
         return std::nullopt;
     if (batteryCelsius())
         m_keys.push_back({.code = batteryCode, .dataType = floatType, .dataSize = floatSize});
+    Key package{.code = packageCode, .dataType = floatType, .dataSize = floatSize};
+    for (const Sensor &sensor : found) {
+        if (sensor.isPackage)
+            package.inputs.push_back(sensor.input());
+    }
+    const bool hasPackage = !package.inputs.empty();
+    if (hasPackage)
+        m_keys.push_back(std::move(package));
+    // The processor's first: its keys do not depend on what else there is.
+    const auto isCpu = [hasPackage](const Sensor &sensor) { return sensor.isCpu && !hasPackage; };
+    std::stable_partition(found.begin(), found.end(), isCpu);
     size_t cpuCount = 0;
     size_t otherCount = 0;
     for (const Sensor &sensor : found) {
-        const auto code = sensor.isCpu ? numberedCode("Tp", cpuCount++) : numberedCode("Ts", otherCount++);
+        if (sensor.isPackage)
+            continue;
+        const bool counts = isCpu(sensor);
+        const auto code = counts ? numberedCode("Tp", cpuCount++) : numberedCode("Ts", otherCount++);
         if (!code)
             continue;
         m_keys.push_back({.code = *code,
-                          .dataType = sensor.isCpu ? floatType : fixedPointType,
-                          .dataSize = sensor.isCpu ? floatSize : fixedPointSize,
-                          .input = QStringLiteral("%1/temp%2_input").arg(sensor.folder).arg(sensor.number),
-                          .runtimeStatus = sensor.folder + QStringLiteral("/device/power/runtime_status")});
+                          .dataType = counts ? floatType : fixedPointType,
+                          .dataSize = counts ? floatSize : fixedPointSize,
+                          .inputs = {sensor.input()}});
     }
     return ++m_connection;
 }
@@ -194,12 +226,13 @@ void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) cons
         ofChip.push_back({chip, device, label, number, folder,
                           isCpuChip(chip) || (isMixedChip(chip) && isCpuLabel(label))});
     }
-    // What the fan control goes by stands off the true value on some processors.
-    const auto isTrueValue = [](const Sensor &sensor) { return sensor.label == QLatin1String("Tdie"); };
-    if (std::any_of(ofChip.begin(), ofChip.end(), isTrueValue)) {
-        for (Sensor &sensor : ofChip)
-            sensor.isCpu = sensor.isCpu && sensor.label != QLatin1String("Tctl");
+    std::optional<int> best;
+    for (const Sensor &sensor : ofChip) {
+        if (const auto rank = packageRank(sensor.chip, sensor.label); sensor.isCpu && rank)
+            best = std::min(best.value_or(*rank), *rank);
     }
+    for (Sensor &sensor : ofChip)
+        sensor.isPackage = best && packageRank(sensor.chip, sensor.label) == best;
     sensors.insert(sensors.end(), ofChip.begin(), ofChip.end());
 }
 
@@ -275,13 +308,22 @@ void HwmonSmc::answerValue(const Key &key, SmcRecord &answer) const
 
 std::optional<double> HwmonSmc::celsius(const Key &key) const
 {
-    return m_reader.call<double>(key.input,
-                                 [input = key.input, status = key.runtimeStatus]() -> std::optional<double> {
-                                     if (isAsleep(status))
-                                         return std::nullopt;
-                                     const auto value = sysfsNumber(smallFile(input));
-                                     return value ? std::optional(*value / milliPerUnit) : std::nullopt;
-                                 });
+    std::optional<double> hottest;
+    for (const Input &input : key.inputs) {
+        if (const auto value = celsius(input))
+            hottest = std::max(hottest.value_or(*value), *value);
+    }
+    return hottest;
+}
+
+std::optional<double> HwmonSmc::celsius(const Input &input) const
+{
+    return m_reader.call<double>(input.file, [input]() -> std::optional<double> {
+        if (isAsleep(input.runtimeStatus))
+            return std::nullopt;
+        const auto value = sysfsNumber(smallFile(input.file));
+        return value ? std::optional(*value / milliPerUnit) : std::nullopt;
+    });
 }
 
 std::optional<double> HwmonSmc::batteryCelsius() const

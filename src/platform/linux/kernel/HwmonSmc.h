@@ -13,7 +13,8 @@ namespace brimlight {
 ///
 ///     #KEY   how many keys there are
 ///     B0AT   the battery, when it tells its temperature
-///     Tp..   the processor's sensors
+///     TC0P   the processor's package, of several the hottest: what its maker calls its temperature
+///     Tp..   the processor's sensors, where none speaks for all of it
 ///     Ts..   all others; in a type that nobody decodes, so that listing the keys does not bother a drive
 ///
 /// The two characters count up in an order that is the same at every boot. A sensor whose device sleeps is
@@ -30,14 +31,18 @@ public:
 
 private:
     struct Sensor;
+    struct Input
+    {
+        QString file;
+        QString runtimeStatus;
+    };
     struct Key
     {
         uint32_t code = 0;
         uint32_t dataType = 0;
         uint32_t dataSize = 0;
-        /// Empty for what is no sensor of a chip.
-        QString input;
-        QString runtimeStatus;
+        /// The hottest of them counts; empty for what is no sensor of a chip.
+        std::vector<Input> inputs;
     };
 
     std::vector<Sensor> sensors() const;
@@ -48,6 +53,7 @@ private:
     void answerInfo(const Key &key, SmcRecord &answer) const;
     void answerValue(const Key &key, SmcRecord &answer) const;
     std::optional<double> celsius(const Key &key) const;
+    std::optional<double> celsius(const Input &input) const;
     std::optional<double> batteryCelsius() const;
 
     BoundedRead &m_reader;
