@@ -36,7 +36,7 @@ class PowerSources
 {
 public:
     virtual ~PowerSources() = default;
-    /// The first source; absent when there is none or it has no description.
+    /// The machine's batteries as one; absent when there is none or it has no description.
     virtual std::optional<PowerSourceDescription> first() = 0;
     /// Absent without a battery.
     virtual std::optional<SmartBattery> smartBattery() = 0;

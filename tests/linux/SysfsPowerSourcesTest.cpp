@@ -36,8 +36,22 @@ protected:
     void unset(const char *file) const { machine.remove(supply(file)); }
     BatterySnapshot read() { return BatteryReader::read(sources); }
 
-    Machine machine{MachineKind::laptopIntel};
+    explicit PowerSourcesTest(MachineKind kind = MachineKind::laptopIntel)
+        : machine(kind)
+    {
+    }
+
+    Machine machine;
     SysfsPowerSources sources{machine.sys(), ample};
+};
+
+class TwoBatteriesTest : public PowerSourcesTest
+{
+protected:
+    TwoBatteriesTest()
+        : PowerSourcesTest(MachineKind::laptopTwoBatteries)
+    {
+    }
 };
 
 } // namespace
@@ -109,17 +123,108 @@ TEST_F(PowerSourcesTest, TheCapacitiesAreMilliamperesOrTenthsOfMilliwattsTimesHo
     EXPECT_EQ(energy->rawMaxCapacity, 5130);
 }
 
-TEST_F(PowerSourcesTest, OnlyTheFirstOfTwoBatteriesByNameCounts)
+TEST_F(TwoBatteriesTest, AreOneChargeOfTheirEnergiesAndPowers)
 {
-    set("BAT1/type", "Battery");
-    set("BAT1/status", "Charging");
-    set("BAT1/capacity", "11");
-    set("BAT1/cycle_count", "5");
-    EXPECT_EQ(read().percent, 72);
-    EXPECT_EQ(sources.smartBattery()->cycleCount, 187);
-    unset("BAT0");
-    EXPECT_EQ(read().percent, 11);
-    EXPECT_EQ(sources.smartBattery()->cycleCount, 5);
+    // 24 of 60 Wh at 9 W; the wear is 60 of 72 Wh.
+    EXPECT_EQ(read(), (BatterySnapshot{.percent = 40,
+                                       .isCharging = false,
+                                       .isPluggedIn = false,
+                                       .hasBattery = true,
+                                       .timeToEmpty = 160,
+                                       .timeToFull = -1}));
+    EXPECT_EQ(BatteryHealthReader::read(sources),
+              (BatteryHealthSnapshot{.cycleCount = 412, .healthPercent = 83}));
+    machine.remove(supply("BAT1"));
+    EXPECT_EQ(read().percent, 95);
+    EXPECT_EQ(sources.smartBattery()->cycleCount, 412);
+}
+
+TEST_F(TwoBatteriesTest, TheDirectionIsWhatComesOfBoth)
+{
+    struct Row
+    {
+        const char *online;
+        const char *status0;
+        const char *power0;
+        const char *status1;
+        const char *power1;
+        bool isCharging;
+        int toEmpty;
+        int toFull;
+    };
+    // 24 Wh are there, 36 Wh are missing.
+    for (const Row &row : {
+             Row{"0", "Discharging", "3000000", "Discharging", "9000000", false, 120, -1},
+             Row{"0", "Unknown", "0", "Discharging", "12000000", false, 120, -1},
+             Row{"1", "Not charging", "0", "Charging", "18000000", true, -1, 120},
+             Row{"1", "Charging", "6000000", "Charging", "12000000", true, -1, 120},
+             Row{"1", "Full", "0", "Charging", "18000000", true, -1, 120},
+             Row{"1", "Full", "0", "Full", "0", false, -1, -1},
+             Row{"1", "Unknown", "0", "Not charging", "0", false, -1, -1},
+             Row{"0", "Charging", "4000000", "Discharging", "16000000", false, 120, -1},
+             Row{"1", "Charging", "20000000", "Discharging", "2000000", true, -1, 120},
+             Row{"1", "Charging", "5000000", "Discharging", "5000000", false, -1, -1},
+             Row{"0", "Unknown", "-4000000", "Discharging", "-8000000", false, 120, -1},
+         }) {
+        set("AC/online", row.online);
+        set("BAT0/status", row.status0);
+        set("BAT0/power_now", row.power0);
+        set("BAT1/status", row.status1);
+        set("BAT1/power_now", row.power1);
+        const BatterySnapshot snapshot = read();
+        const auto rowText =
+            QByteArray(row.status0) + ' ' + row.power0 + ", " + row.status1 + ' ' + row.power1;
+        EXPECT_EQ(snapshot.isCharging, row.isCharging) << rowText.constData();
+        EXPECT_EQ(snapshot.timeToEmpty, row.toEmpty) << rowText.constData();
+        EXPECT_EQ(snapshot.timeToFull, row.toFull) << rowText.constData();
+        EXPECT_EQ(snapshot.percent, 40) << rowText.constData();
+    }
+}
+
+TEST_F(TwoBatteriesTest, WithoutSuppliesOneThatChargesIsPluggedIn)
+{
+    machine.remove(supply("AC"));
+    EXPECT_FALSE(read().isPluggedIn) << "one discharges";
+    set("BAT0/status", "Charging");
+    EXPECT_TRUE(read().isPluggedIn);
+    set("BAT0/status", "Full");
+    set("BAT1/status", "Unknown");
+    EXPECT_TRUE(read().isPluggedIn);
+}
+
+TEST_F(TwoBatteriesTest, OneThatCountsChargeIsConvertedByItsVoltage)
+{
+    for (const char *file :
+         {"BAT1/energy_full_design", "BAT1/energy_full", "BAT1/energy_now", "BAT1/power_now"})
+        unset(file);
+    set("BAT1/voltage_min_design", "12000000");
+    set("BAT1/charge_full_design", "4000000");
+    set("BAT1/charge_full", "3500000");
+    set("BAT1/charge_now", "575000");
+    set("BAT1/current_now", "750000");
+    EXPECT_EQ(read().percent, 40);
+    EXPECT_EQ(read().timeToEmpty, 160);
+    EXPECT_EQ(BatteryHealthReader::read(sources)->healthPercent, 83);
+}
+
+TEST_F(TwoBatteriesTest, WhatCannotBeAddedUpIsTheMeanOfWhatTheDriversSay)
+{
+    machine.makeUnreadable(supply("BAT1/energy_now"));
+    EXPECT_EQ(read().percent, 56) << "95 and 16";
+    EXPECT_EQ(read().timeToEmpty, -1);
+    unset("BAT1/capacity");
+    EXPECT_EQ(read().percent, 95);
+    unset("BAT0/capacity");
+    EXPECT_EQ(read().percent, -1);
+}
+
+TEST_F(TwoBatteriesTest, TheHotterOneTellsTheTemperature)
+{
+    EXPECT_FALSE(sources.smartBattery()->temperature);
+    set("BAT0/temp", "312");
+    EXPECT_EQ(sources.smartBattery()->temperature, 3120);
+    set("BAT1/temp", "405");
+    EXPECT_EQ(sources.smartBattery()->temperature, 4050);
 }
 
 TEST_F(PowerSourcesTest, ABatteryThatIsTakenOutIsNotThere)

@@ -1,21 +1,10 @@
 #include "platform/linux/kernel/SysfsPowerSources.h"
 
+#include "platform/linux/kernel/BatteryCharge.h"
+
 #include <QDir>
 
-#include <algorithm>
-
 namespace brimlight {
-namespace {
-
-const PowerSupply *firstBattery(const QList<PowerSupply> &supplies)
-{
-    const auto battery = std::find_if(supplies.begin(), supplies.end(),
-                                      [](const PowerSupply &supply) { return supply.isBattery(); });
-    return battery == supplies.end() ? nullptr : &*battery;
-}
-
-} // namespace
-
 SysfsPowerSources::SysfsPowerSources(const QString &sys, std::chrono::milliseconds patience)
     : m_folder(sys + QStringLiteral("/class/power_supply"))
     , m_reads(patience)
@@ -24,16 +13,12 @@ SysfsPowerSources::SysfsPowerSources(const QString &sys, std::chrono::millisecon
 
 std::optional<PowerSourceDescription> SysfsPowerSources::first()
 {
-    const QList<PowerSupply> all = supplies();
-    const PowerSupply *battery = firstBattery(all);
-    return battery ? std::optional(describePowerSource(*battery, all)) : std::nullopt;
+    return describePowerSource(supplies());
 }
 
 std::optional<SmartBattery> SysfsPowerSources::smartBattery()
 {
-    const QList<PowerSupply> all = supplies();
-    const PowerSupply *battery = firstBattery(all);
-    return battery ? std::optional(describeSmartBattery(*battery)) : std::nullopt;
+    return describeSmartBattery(supplies());
 }
 
 QList<PowerSupply> SysfsPowerSources::supplies()

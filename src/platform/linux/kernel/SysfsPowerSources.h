@@ -8,7 +8,7 @@
 
 namespace brimlight {
 
-/// The batteries and chargers of /sys/class/power_supply. The first battery by name counts. A driver that is
+/// The batteries and chargers of /sys/class/power_supply; several batteries are told as one. A driver that is
 /// slow to answer, as those that talk to an embedded controller, leaves the last values standing.
 class SysfsPowerSources : public PowerSources
 {
