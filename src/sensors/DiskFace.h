@@ -5,6 +5,7 @@
 #include "sensors/DiskReader.h"
 
 #include <QColor>
+#include <QDir>
 
 namespace brimlight {
 
@@ -37,7 +38,7 @@ protected:
     void tick() override { read(); }
 
 private:
-    void read() { m_snapshot = DiskReader::read(m_statistics); }
+    void read() { m_snapshot = DiskReader::read(m_statistics, QDir::homePath()); }
 
     HostStatistics &m_statistics;
     DiskSnapshot m_snapshot;

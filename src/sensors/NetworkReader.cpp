@@ -2,35 +2,41 @@
 
 #include "platform/HostStatistics.h"
 
+#include <utility>
+
 namespace brimlight {
+namespace {
+
+/// A counter that is lower than before was reset in between.
+double advance(uint64_t from, uint64_t to)
+{
+    return static_cast<double>(to >= from ? to - from : to);
+}
+
+} // namespace
 
 NetSnapshot NetworkReader::read()
 {
-    const Totals total = totals();
+    const auto interfaces = m_statistics.interfaces();
+    if (!interfaces)
+        return {};
     const double now = m_statistics.uptime();
+    const double dt = now - std::exchange(m_prevTime, now);
+    const bool isRate = dt < now && dt > 0;
+    QHash<QString, Bytes> links;
     NetSnapshot snapshot;
-    if (m_prevTime > 0 && m_prevTime < now) {
-        const double dt = now - m_prevTime;
-        snapshot.up = static_cast<double>(total.out - m_prevOut) / dt;
-        snapshot.down = static_cast<double>(total.in - m_prevIn) / dt;
-    }
-    m_prevIn = total.in;
-    m_prevOut = total.out;
-    m_prevTime = now;
-    return snapshot;
-}
-
-NetworkReader::Totals NetworkReader::totals()
-{
-    Totals sum;
-    const QList<InterfaceCounters> interfaces = m_statistics.interfaces();
-    for (const InterfaceCounters &counters : interfaces) {
+    for (const InterfaceCounters &counters : *interfaces) {
         if (counters.name.startsWith(QLatin1String("lo")))
             continue;
-        sum.in += counters.received;
-        sum.out += counters.sent;
+        const Bytes before = m_prev.value(counters.name);
+        links.insert(counters.name, {.in = counters.received, .out = counters.sent});
+        if (isRate) {
+            snapshot.up += advance(before.out, counters.sent) / dt;
+            snapshot.down += advance(before.in, counters.received) / dt;
+        }
     }
-    return sum;
+    m_prev = links;
+    return snapshot;
 }
 
 } // namespace brimlight

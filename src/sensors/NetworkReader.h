@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QHash>
+#include <QString>
+
 #include <cstdint>
 
 namespace brimlight {
@@ -15,8 +18,9 @@ struct NetSnapshot
     bool operator==(const NetSnapshot &) const = default;
 };
 
-/// Measures the rate between one call and the next, so each view needs one of its own. A counter that wraps
-/// or restarts makes one sample huge.
+/// Measures the rate between one call and the next, so each view needs one of its own. Links are followed one
+/// by one: one that has gone takes nothing away from the others, one that is new or has been reset counts
+/// from zero.
 class NetworkReader
 {
 public:
@@ -25,20 +29,19 @@ public:
     {
     }
 
-    /// The first call, and one within the same tick of the clock, report 0; each moves the baseline.
+    /// The first call, and one within the same tick of the clock, report 0; each moves the baseline, unless
+    /// the interfaces cannot be listed.
     NetSnapshot read();
 
 private:
-    struct Totals
+    struct Bytes
     {
         uint64_t in = 0;
         uint64_t out = 0;
     };
-    Totals totals();
 
     HostStatistics &m_statistics;
-    uint64_t m_prevIn = 0;
-    uint64_t m_prevOut = 0;
+    QHash<QString, Bytes> m_prev;
     /// Seconds of uptime; 0 before the first sample.
     double m_prevTime = 0;
 };

@@ -17,7 +17,7 @@ protected:
         statistics.seconds = 100;
     }
 
-    static InterfaceCounters link(const char *name, uint32_t received, uint32_t sent)
+    static InterfaceCounters link(const char *name, uint64_t received, uint64_t sent)
     {
         return {.name = QLatin1String(name), .received = received, .sent = sent};
     }
@@ -82,27 +82,50 @@ TEST_F(NetworkReaderTest, AllLinksCountButLoopback)
     EXPECT_EQ(reader.read(), (NetSnapshot{.up = 2222, .down = 1111}));
 }
 
-TEST_F(NetworkReaderTest, TheSumIsWiderThanItsCounters)
+TEST_F(NetworkReaderTest, CountersAreAsWideAsTheKernels)
 {
-    constexpr uint32_t most = std::numeric_limits<uint32_t>::max();
-    statistics.links = {link("eth0", most - 10, 0), link("eth1", most - 10, 0)};
+    constexpr uint64_t most = std::numeric_limits<uint32_t>::max();
+    statistics.links = {link("eth0", most - 10, 3 * most)};
     reader.read();
-    statistics.links = {link("eth0", most, 0), link("eth1", most, 0)};
+    statistics.links = {link("eth0", most + 10, 3 * most + 5)};
     statistics.seconds = 101;
-    EXPECT_EQ(reader.read().down, 20);
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 5, .down = 20}));
 }
 
-TEST_F(NetworkReaderTest, ACounterThatWrapsMakesOneSampleHuge)
+TEST_F(NetworkReaderTest, ALinkThatVanishesTakesNothingAway)
 {
+    statistics.links = {link("eth0", 1000, 500), link("veth5f1c2ab", 90'000'000, 80'000'000)};
     reader.read();
-    statistics.links = {link("eth0", 10, 600)};
+    statistics.links = {link("eth0", 1300, 600)};
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 100, .down = 300}));
+    statistics.links = {link("eth0", 1300, 600), link("veth5f1c2ab", 40, 30)};
     statistics.seconds = 102;
-    const NetSnapshot wrapped = reader.read();
-    EXPECT_DOUBLE_EQ(wrapped.down, (18446744073709551616.0 - 990) / 2);
-    EXPECT_EQ(wrapped.up, 50);
-    statistics.links = {link("eth0", 30, 600)};
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 30, .down = 40})) << "a new one of an old name";
+}
+
+TEST_F(NetworkReaderTest, ALinkThatIsResetCountsFromZero)
+{
+    statistics.links = {link("eth0", 1000, 500), link("tun0", 100, 100)};
+    reader.read();
+    statistics.links = {link("eth0", 10, 600), link("tun0", 120, 120)};
+    statistics.seconds = 102;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 60, .down = 15}));
+    statistics.links = {link("eth0", 30, 600), link("tun0", 120, 120)};
     statistics.seconds = 103;
     EXPECT_EQ(reader.read(), (NetSnapshot{.up = 0, .down = 20}));
+}
+
+TEST_F(NetworkReaderTest, LinksThatCannotBeListedLeaveTheBaseline)
+{
+    reader.read();
+    statistics.canListLinks = false;
+    statistics.seconds = 101;
+    EXPECT_EQ(reader.read(), NetSnapshot{});
+    statistics.canListLinks = true;
+    statistics.links = {link("eth0", 1200, 500)};
+    statistics.seconds = 102;
+    EXPECT_EQ(reader.read(), (NetSnapshot{.up = 0, .down = 100}));
 }
 
 TEST_F(NetworkReaderTest, WithoutInterfacesTheTotalsAreZero)

@@ -28,6 +28,9 @@ std::optional<MemoryInfo> parseMemoryInfo(const QByteArray &meminfo);
 /// Their sum is what is not available.
 MemoryPages pagesInUse(const MemoryInfo &info, uint64_t pageSize);
 
+/// The kernel's table of links, /proc/net/dev. Absent when it is none.
+std::optional<QList<InterfaceCounters>> parseInterfaces(const QByteArray &table);
+
 /// The kernel's counters. `proc` and `sys` are the folders where it shows them. docs/counters.md says why it
 /// is these.
 class LinuxHostStatistics : public HostStatistics
@@ -40,7 +43,7 @@ public:
     std::optional<CpuTicks> cpuTicks() override;
     std::optional<MemoryPages> memoryPages() override;
     uint64_t physicalMemory() override;
-    QList<InterfaceCounters> interfaces() override;
+    std::optional<QList<InterfaceCounters>> interfaces() override;
     /// Of a file system that hangs, what it said last.
     std::optional<VolumeCapacity> volumeCapacity(const QString &path) override;
     double uptime() override;
