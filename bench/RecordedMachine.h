@@ -117,9 +117,8 @@ private:
     Statistics m_statistics{m_machine.proc(), m_machine.sys()};
     SysfsPowerSources m_power{m_machine.sys()};
     LinuxMachineInfo m_info{m_machine.proc(), m_machine.sys()};
-    BoundedRead m_reads;
-    HwmonSmc m_smc{m_reads, m_machine.sys()};
-    ThermalZones m_zones{m_reads, m_machine.sys()};
+    HwmonSmc m_smc{m_machine.sys()};
+    ThermalZones m_zones{m_machine.sys()};
     test::FakePlatform m_fakes;
 
 public:

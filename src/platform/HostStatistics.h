@@ -51,7 +51,8 @@ struct VolumeCapacity
 /// 0 to 3 in the order of severity.
 enum class ThermalState { nominal, fair, serious, critical };
 
-/// Counters of the machine. No call ever waits for a device.
+/// Counters of the machine. A call waits for whatever answers it, which may be for ever: it belongs on a
+/// thread of its own, and calls may come from several threads at once.
 class HostStatistics
 {
 public:

@@ -1,13 +1,10 @@
 #pragma once
 
-#include <QHash>
-#include <QString>
+#include "sensors/Samplers.h"
 
-#include <cstdint>
+#include <QHash>
 
 namespace brimlight {
-
-class HostStatistics;
 
 /// Bytes per second over all interfaces but the loopback ones.
 struct NetSnapshot
@@ -24,14 +21,9 @@ struct NetSnapshot
 class NetworkReader
 {
 public:
-    explicit NetworkReader(HostStatistics &statistics)
-        : m_statistics(statistics)
-    {
-    }
-
-    /// The first call, and one within the same tick of the clock, report 0; each moves the baseline, unless
-    /// the interfaces cannot be listed.
-    NetSnapshot read();
+    /// Absent without a baseline: on the first call, after a pause, and when the interfaces cannot be listed,
+    /// which alone leaves the baseline as it was. Within one tick of the clock the rates are 0.
+    std::optional<NetSnapshot> read(const NetworkCounters &counters);
 
 private:
     struct Bytes
@@ -40,10 +32,9 @@ private:
         uint64_t out = 0;
     };
 
-    HostStatistics &m_statistics;
     QHash<QString, Bytes> m_prev;
-    /// Seconds of uptime; 0 before the first sample.
-    double m_prevTime = 0;
+    /// Seconds of uptime; absent before the first sample.
+    std::optional<double> m_prevTime;
 };
 
 } // namespace brimlight

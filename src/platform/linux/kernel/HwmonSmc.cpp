@@ -1,5 +1,6 @@
 #include "platform/linux/kernel/HwmonSmc.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/SysfsValue.h"
 
 #include <QDir>
@@ -14,7 +15,6 @@ namespace brimlight {
 namespace {
 
 constexpr uint32_t countCode = SmcLayout::code("#KEY");
-constexpr uint32_t batteryCode = SmcLayout::code("B0AT");
 constexpr uint32_t packageCode = SmcLayout::code("TC0P");
 constexpr uint32_t floatType = SmcLayout::code("flt ");
 constexpr uint32_t integerType = SmcLayout::code("ui32");
@@ -85,22 +85,10 @@ bool isAsleep(const QString &runtimeStatus)
     return status == QLatin1String("suspended") || status == QLatin1String("suspending");
 }
 
-/// The temperature of the first system battery that tells one; tenths of a degree. Runs on the reader's
-/// thread.
-std::optional<qint64> batteryTenths(const QString &suppliesFolder)
+std::optional<double> celsiusOf(const QString &input)
 {
-    const QDir supplies(suppliesFolder);
-    for (const QString &supply : supplies.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
-        const QString folder = supplies.filePath(supply) + u'/';
-        if (!QFileInfo::exists(folder + QStringLiteral("temp")) ||
-            sysfsText(smallFile(folder + QStringLiteral("type"))) != QLatin1String("Battery") ||
-            sysfsText(smallFile(folder + QStringLiteral("scope"))) == QLatin1String("Device") ||
-            isAsleep(folder + QStringLiteral("device/power/runtime_status")))
-            continue;
-        if (const auto tenths = sysfsNumber(smallFile(folder + QStringLiteral("temp"))))
-            return tenths;
-    }
-    return std::nullopt;
+    const auto milli = sysfsNumber(smallFile(input));
+    return milli ? std::optional(*milli / milliPerUnit) : std::nullopt;
 }
 
 /// A prefix of two characters and a number of two digits.
@@ -128,6 +116,18 @@ void storeFixedPoint(SmcRecord &record, double value)
 
 } // namespace
 
+std::optional<double> HwmonSmc::hottest(const std::vector<Input> &inputs)
+{
+    std::optional<double> hottest;
+    for (const Input &input : inputs) {
+        if (isAsleep(input.runtimeStatus))
+            continue;
+        if (const auto value = celsiusOf(input.file))
+            hottest = std::max(hottest.value_or(*value), *value);
+    }
+    return hottest;
+}
+
 struct HwmonSmc::Sensor
 {
     QString chip;
@@ -148,9 +148,8 @@ struct HwmonSmc::Sensor
     auto order() const { return std::tie(chip, device, label, number); }
 };
 
-HwmonSmc::HwmonSmc(BoundedRead &reader, const QString &root)
-    : m_reader(reader)
-    , m_root(QFileInfo(root).canonicalFilePath())
+HwmonSmc::HwmonSmc(const QString &root)
+    : m_root(QFileInfo(root).canonicalFilePath())
 {
 }
 
@@ -160,8 +159,6 @@ std::optional<uint32_t> HwmonSmc::open()
     m_keys.clear();
     if (std::none_of(found.begin(), found.end(), [](const Sensor &sensor) { return sensor.isCpu; }))
         return std::nullopt;
-    if (batteryCelsius())
-        m_keys.push_back({.code = batteryCode, .dataType = floatType, .dataSize = floatSize});
     Key package{.code = packageCode, .dataType = floatType, .dataSize = floatSize};
     for (const Sensor &sensor : found) {
         if (sensor.isPackage)
@@ -209,7 +206,7 @@ std::vector<HwmonSmc::Sensor> HwmonSmc::sensors() const
 
 void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) const
 {
-    const QString chip = sysfsText(m_reader.lastingFile(folder + QStringLiteral("/name")));
+    const QString chip = sysfsText(smallFile(folder + QStringLiteral("/name")));
     const QString device =
         QDir(m_root).relativeFilePath(QFileInfo(folder + QStringLiteral("/device")).canonicalFilePath());
     const QString suffix = QStringLiteral("_input");
@@ -221,8 +218,7 @@ void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) cons
         const int number = QStringView(input).sliced(4).chopped(suffix.size()).toInt(&isNumber);
         if (!isNumber)
             continue;
-        const QString label =
-            sysfsText(m_reader.lastingFile(QStringLiteral("%1/temp%2_label").arg(folder).arg(number)));
+        const QString label = sysfsText(smallFile(QStringLiteral("%1/temp%2_label").arg(folder).arg(number)));
         ofChip.push_back({chip, device, label, number, folder,
                           isCpuChip(chip) || (isMixedChip(chip) && isCpuLabel(label))});
     }
@@ -238,13 +234,10 @@ void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) cons
 
 const HwmonSmc::Key *HwmonSmc::find(uint32_t code) const
 {
-    // These two can be asked for whether or not they are listed; a battery may be put in later.
+    // Can be asked for without being listed.
     static const Key count{.code = countCode, .dataType = integerType, .dataSize = sizeof(uint32_t)};
-    static const Key battery{.code = batteryCode, .dataType = floatType, .dataSize = floatSize};
     if (code == countCode)
         return &count;
-    if (code == batteryCode)
-        return &battery;
     const auto key =
         std::find_if(m_keys.begin(), m_keys.end(), [code](const Key &key) { return key.code == code; });
     return key == m_keys.end() ? nullptr : &*key;
@@ -283,10 +276,6 @@ void HwmonSmc::answerIndex(const SmcRecord &request, SmcRecord &answer) const
 
 void HwmonSmc::answerInfo(const Key &key, SmcRecord &answer) const
 {
-    if (key.code == batteryCode && !batteryCelsius()) {
-        answer[SmcLayout::result] = resultNotFound;
-        return;
-    }
     SmcLayout::store(answer, key.dataSize, SmcLayout::dataSize);
     SmcLayout::store(answer, key.dataType, SmcLayout::dataType);
 }
@@ -297,41 +286,13 @@ void HwmonSmc::answerValue(const Key &key, SmcRecord &answer) const
         qToBigEndian(static_cast<uint32_t>(m_keys.size()), answer.data() + SmcLayout::bytes);
         return;
     }
-    const auto value = key.code == batteryCode ? batteryCelsius() : celsius(key);
+    const auto value = hottest(key.inputs);
     if (!value)
         answer[SmcLayout::result] = resultNotReadable;
     else if (key.dataType == floatType)
         storeFloat(answer, *value);
     else
         storeFixedPoint(answer, *value);
-}
-
-std::optional<double> HwmonSmc::celsius(const Key &key) const
-{
-    std::optional<double> hottest;
-    for (const Input &input : key.inputs) {
-        if (const auto value = celsius(input))
-            hottest = std::max(hottest.value_or(*value), *value);
-    }
-    return hottest;
-}
-
-std::optional<double> HwmonSmc::celsius(const Input &input) const
-{
-    return m_reader.call<double>(input.file, [input]() -> std::optional<double> {
-        if (isAsleep(input.runtimeStatus))
-            return std::nullopt;
-        const auto value = sysfsNumber(smallFile(input.file));
-        return value ? std::optional(*value / milliPerUnit) : std::nullopt;
-    });
-}
-
-std::optional<double> HwmonSmc::batteryCelsius() const
-{
-    constexpr double tenthsPerDegree = 10.0;
-    const QString supplies = m_root + QStringLiteral("/class/power_supply");
-    const auto tenths = m_reader.call<qint64>(supplies, [supplies] { return batteryTenths(supplies); });
-    return tenths ? std::optional(*tenths / tenthsPerDegree) : std::nullopt;
 }
 
 } // namespace brimlight

@@ -1,9 +1,11 @@
 #include "platform/linux/kernel/LinuxHostStatistics.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/ThermalZone.h"
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 
 #include <algorithm>
 #include <array>
@@ -113,11 +115,9 @@ std::optional<QList<InterfaceCounters>> parseInterfaces(const QByteArray &table)
     return interfaces;
 }
 
-LinuxHostStatistics::LinuxHostStatistics(const QString &proc, const QString &sys,
-                                         std::chrono::milliseconds patience)
+LinuxHostStatistics::LinuxHostStatistics(const QString &proc, const QString &sys)
     : m_proc(proc)
     , m_thermal(sys + QStringLiteral("/class/thermal"))
-    , m_reads(patience)
 {
 }
 
@@ -154,7 +154,7 @@ std::optional<QList<InterfaceCounters>> LinuxHostStatistics::interfaces()
 
 std::optional<VolumeCapacity> LinuxHostStatistics::volumeCapacity(const QString &path)
 {
-    return m_volumes[path].ask(m_reads, path, [path] { return capacityOf(path); });
+    return capacityOf(path);
 }
 
 double LinuxHostStatistics::uptime()
@@ -176,14 +176,13 @@ ThermalState LinuxHostStatistics::thermalState()
                     worst(QStringLiteral("cooling_device*"), &coolingDeviceState));
 }
 
-ThermalState LinuxHostStatistics::worst(const QString &folders, ThermalState (*read)(const QString &folder))
+ThermalState LinuxHostStatistics::worst(const QString &folders,
+                                        ThermalState (*read)(const QString &folder)) const
 {
     ThermalState worst = ThermalState::nominal;
     const QStringList names = QDir(m_thermal).entryList({folders}, QDir::Dirs);
-    for (const QString &name : names) {
-        const QString folder = m_thermal + u'/' + name;
-        worst = std::max(worst, m_thermalStates[folder].ask(m_reads, folder, [=] { return read(folder); }));
-    }
+    for (const QString &name : names)
+        worst = std::max(worst, read(m_thermal + u'/' + name));
     return worst;
 }
 

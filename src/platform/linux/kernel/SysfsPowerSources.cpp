@@ -5,32 +5,19 @@
 #include <QDir>
 
 namespace brimlight {
-SysfsPowerSources::SysfsPowerSources(const QString &sys, std::chrono::milliseconds patience)
+
+SysfsPowerSources::SysfsPowerSources(const QString &sys)
     : m_folder(sys + QStringLiteral("/class/power_supply"))
-    , m_reads(patience)
 {
 }
 
-std::optional<PowerSourceDescription> SysfsPowerSources::first()
+PowerState SysfsPowerSources::read()
 {
-    return describePowerSource(supplies());
-}
-
-std::optional<SmartBattery> SysfsPowerSources::smartBattery()
-{
-    return describeSmartBattery(supplies());
-}
-
-QList<PowerSupply> SysfsPowerSources::supplies()
-{
-    const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
-    m_kept.removeIf([&](const auto &entry) { return !names.contains(entry.key()); });
     QList<PowerSupply> supplies;
-    for (const QString &name : names) {
-        const QString folder = m_folder + u'/' + name;
-        supplies.append(m_kept[name].ask(m_reads, folder, [folder] { return PowerSupply(folder); }));
-    }
-    return supplies;
+    const QStringList names = QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    for (const QString &name : names)
+        supplies.append(PowerSupply(m_folder + u'/' + name));
+    return {.source = describePowerSource(supplies), .battery = describeSmartBattery(supplies)};
 }
 
 } // namespace brimlight
