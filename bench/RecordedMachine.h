@@ -61,8 +61,8 @@ public:
         ++m_second;
         m_statistics.seconds += 1;
         m_busy += static_cast<uint64_t>(1000 * load());
-        m_received += static_cast<uint32_t>(m_fare.down * traffic(0.9));
-        m_sent += static_cast<uint32_t>(m_fare.up * traffic(2.3));
+        m_received += static_cast<uint64_t>(m_fare.down * traffic(0.9));
+        m_sent += static_cast<uint64_t>(m_fare.up * traffic(2.3));
         writeCounters();
         m_fakes.scheduler.advance(std::chrono::seconds(1));
     }
@@ -73,7 +73,7 @@ private:
     {
     public:
         using LinuxHostStatistics::LinuxHostStatistics;
-        QList<InterfaceCounters> interfaces() override { return links; }
+        std::optional<QList<InterfaceCounters>> interfaces() override { return links; }
         std::optional<VolumeCapacity> volumeCapacity(const QString &) override { return volume; }
         double uptime() override { return seconds; }
 
@@ -112,14 +112,13 @@ private:
     test::Machine m_machine;
     int m_second = 0;
     uint64_t m_busy = 0;
-    uint32_t m_received = 0;
-    uint32_t m_sent = 0;
+    uint64_t m_received = 0;
+    uint64_t m_sent = 0;
     Statistics m_statistics{m_machine.proc(), m_machine.sys()};
     SysfsPowerSources m_power{m_machine.sys()};
     LinuxMachineInfo m_info{m_machine.proc(), m_machine.sys()};
-    BoundedRead m_reads;
-    HwmonSmc m_smc{m_reads, m_machine.sys()};
-    ThermalZones m_zones{m_reads, m_machine.sys()};
+    HwmonSmc m_smc{m_machine.sys()};
+    ThermalZones m_zones{m_machine.sys()};
     test::FakePlatform m_fakes;
 
 public:

@@ -1,5 +1,5 @@
-// What the temperature sensors cost the main thread: once a start, and once a tick while temperatures are
-// shown.
+// What the temperature sensors cost the thread that reads them, once a start and once a tick while
+// temperatures are shown, and what a question costs the main thread.
 //
 // Files are those of a temporary folder; a driver of the kernel takes some microseconds more each.
 
@@ -7,29 +7,19 @@
 #include "fakes/SensorFakes.h"
 #include "fixtures/machines.h"
 #include "platform/linux/kernel/HwmonSmc.h"
-#include "sensors/SMCBridge.h"
+#include "platform/linux/kernel/SmallFile.h"
+#include "platform/linux/process/QtScheduler.h"
+#include "sensors/SMCSensors.h"
+#include "sensors/Sampler.h"
 
 #include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
 
 namespace brimlight {
 namespace {
 
-/// All that a bridge needs besides its controller.
-struct Surroundings
-{
-    std::unique_ptr<SMCBridge> open(SmcTransport &smc)
-    {
-        return SMCBridge::open(smc, machine, power, defaults, log, scheduler);
-    }
-
-    test::FakeMachine machine;
-    test::FakePowerSources power;
-    test::MemoryDefaults defaults;
-    test::RecordingLog log;
-    test::ManualScheduler scheduler;
-};
-
-/// Gives the machine so many processor sensors on one chip.
+/// Gives the machine so many processor sensors on one chip, and none for all of it.
 void addSensors(const test::Machine &machine, int count)
 {
     const QString chip = machine.hwmon(QStringLiteral("coretemp"));
@@ -48,11 +38,10 @@ void discoverKeys(benchmark::State &state)
         const QByteArray number = QByteArray::number(i, 36).rightJustified(3, '0');
         smc.add(((i % 10 == 0 ? "TC" + number.last(2) : "X" + number)).constData(), 45);
     }
-    Surroundings around;
+    test::FakeMachine machine;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(around.open(smc));
+        benchmark::DoNotOptimize(SMCSensors::open(smc, machine));
         smc.requests.clear();
-        around.log.entries.clear();
     }
 }
 BENCHMARK(discoverKeys)->Arg(3000)->Unit(benchmark::kMillisecond);
@@ -61,11 +50,10 @@ void discoverHwmon(benchmark::State &state)
 {
     const test::Machine machine(test::MachineKind::laptopIntel);
     addSensors(machine, static_cast<int>(state.range(0)));
-    BoundedRead reader;
-    HwmonSmc smc(reader, machine.sys());
-    Surroundings around;
+    HwmonSmc smc(machine.sys());
+    test::FakeMachine info;
     for (auto _ : state)
-        benchmark::DoNotOptimize(around.open(smc));
+        benchmark::DoNotOptimize(SMCSensors::open(smc, info));
 }
 BENCHMARK(discoverHwmon)->Arg(5)->Arg(40)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
@@ -73,12 +61,11 @@ void steadyReading(benchmark::State &state)
 {
     const test::Machine machine(test::MachineKind::laptopIntel);
     addSensors(machine, static_cast<int>(state.range(0)));
-    BoundedRead reader;
-    HwmonSmc smc(reader, machine.sys());
-    Surroundings around;
-    const auto bridge = around.open(smc);
+    HwmonSmc smc(machine.sys());
+    test::FakeMachine info;
+    const auto sensors = SMCSensors::open(smc, info);
     for (auto _ : state)
-        benchmark::DoNotOptimize(bridge->readTemperatureReading());
+        benchmark::DoNotOptimize(sensors->read({}));
 }
 BENCHMARK(steadyReading)->Arg(5)->Arg(40)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
@@ -91,16 +78,20 @@ void readFile(benchmark::State &state)
 }
 BENCHMARK(readFile)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
-/// What the hand-over to the worker adds.
-void readFileBounded(benchmark::State &state)
+/// From the question to the answer, through another thread and the event loop.
+void askAside(benchmark::State &state)
 {
-    const test::Machine machine(test::MachineKind::boardArm);
-    const QString path = machine.path(QStringLiteral("sys/class/thermal/thermal_zone0/temp"));
-    BoundedRead reader;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(reader.file(path));
+    int argc = 0;
+    const QCoreApplication application(argc, nullptr);
+    QtScheduler scheduler;
+    Sampler<int> sampler(scheduler, [] { return 1; });
+    for (auto _ : state) {
+        sampler.ask();
+        while (sampler.isAsking())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
 }
-BENCHMARK(readFileBounded)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(askAside)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 } // namespace brimlight

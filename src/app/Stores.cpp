@@ -2,6 +2,8 @@
 
 #include "app/AllWidgets.h"
 
+#include <QDir>
+
 namespace brimlight {
 namespace {
 
@@ -22,10 +24,15 @@ Stores::Stores(const Platform &ports, const TraceLog &trace)
     , theme(document(ports, QStringLiteral("theme.json")), ports.defaults, ports.log)
     , grid(document(ports, QStringLiteral("grid.json")), registry)
     , ticker(ports.scheduler, trace)
-    , power(ports.power, ports.scheduler)
-    , systemHistory(ports.statistics, ports.scheduler)
+    , systemSampler(ports.statistics, ports.scheduler)
+    , networkSampler(ports.statistics, ports.scheduler)
+    , diskSampler(ports.statistics, QDir::homePath(), ports.scheduler)
+    , powerSampler(ports.power, ports.scheduler)
+    , thermalStateSampler(ports.statistics, ports.scheduler)
+    , machineSampler(ports.machine, ports.statistics, ports.scheduler)
+    , systemHistory(systemSampler, ports.scheduler)
     , temperature(
-          {ports.smc, ports.thermal, ports.machine, power, ports.defaults, ports.log, ports.scheduler})
+          {ports.smc, ports.thermal, ports.machine, powerSampler, ports.defaults, ports.log, ports.scheduler})
     , loginItem(ports.loginItem, ports.log)
     , appSettings(ports.defaults)
     , updater(ports.defaults)

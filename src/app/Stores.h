@@ -15,7 +15,7 @@
 #include "notch/SystemVolumeMonitor.h"
 #include "platform/Platform.h"
 #include "sensors/HistorySampling.h"
-#include "sensors/SharedPowerSources.h"
+#include "sensors/Samplers.h"
 #include "sensors/SystemHistoryStore.h"
 #include "sensors/TemperatureService.h"
 #include "theme/Motion.h"
@@ -40,7 +40,12 @@ public:
     ThemeStore theme;
     GridStore grid;
     TickCoordinator ticker;
-    SharedPowerSources power;
+    SystemSampler systemSampler;
+    NetworkSampler networkSampler;
+    DiskSampler diskSampler;
+    PowerSampler powerSampler;
+    ThermalStateSampler thermalStateSampler;
+    MachineSampler machineSampler;
     SystemHistoryStore systemHistory;
     TemperatureService temperature;
     LoginItemService loginItem;

@@ -4,10 +4,13 @@
 #include "app/WidgetRenderer.h"
 #include "platform/linux/LinuxPlatform.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QGuiApplication>
 #include <QImageWriter>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 
 namespace brimlight::WidgetRenderHarness {
@@ -20,6 +23,25 @@ struct Outcome
     std::optional<QString> error;
 };
 
+/// Figures come from other threads. A source that hangs is drawn as unknown.
+void waitForFigures(Stores &stores)
+{
+    using namespace std::chrono_literals;
+    const std::array<AnySampler *, 6> samplers{&stores.systemSampler,       &stores.networkSampler,
+                                               &stores.diskSampler,         &stores.powerSampler,
+                                               &stores.thermalStateSampler, &stores.machineSampler};
+    stores.systemHistory.setActive(true);
+    stores.temperature.refresh();
+    for (AnySampler *sampler : samplers)
+        sampler->ask();
+    const QDeadlineTimer deadline(2s);
+    const auto isAsking = [&] {
+        return stores.temperature.isAsking() || std::ranges::any_of(samplers, &AnySampler::isAsking);
+    };
+    while (isAsking() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+}
+
 Outcome renderAll(const QString &folder)
 {
     if (!QDir().mkpath(folder))
@@ -28,8 +50,7 @@ Outcome renderAll(const QString &folder)
     const Platform ports = platform.ports();
     const TraceLog log(ports.log, {});
     Stores stores(ports, log);
-    stores.systemHistory.setActive(true);
-    stores.temperature.refresh();
+    waitForFigures(stores);
     WidgetCatalog catalog(stores.widgets);
     WidgetRenderer renderer(catalog, stores.theme);
 

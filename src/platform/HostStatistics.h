@@ -30,23 +30,29 @@ struct MemoryPages
 struct InterfaceCounters
 {
     QString name;
-    /// Bytes since the interface came up; wrap at 32 bits.
-    uint32_t received = 0;
-    uint32_t sent = 0;
+    /// Bytes since the interface came up.
+    uint64_t received = 0;
+    uint64_t sent = 0;
+
+    bool operator==(const InterfaceCounters &) const = default;
 };
 
-/// Bytes.
 struct VolumeCapacity
 {
+    /// Bytes.
     int64_t total = 0;
     /// What the user could still fill.
     int64_t available = 0;
+    bool isReadOnly = false;
+    /// Gone with the next start.
+    bool isInMemory = false;
 };
 
 /// 0 to 3 in the order of severity.
 enum class ThermalState { nominal, fair, serious, critical };
 
-/// Counters of the machine. No call ever waits for a device.
+/// Counters of the machine. A call waits for whatever answers it, which may be for ever: it belongs on a
+/// thread of its own, and calls may come from several threads at once.
 class HostStatistics
 {
 public:
@@ -55,10 +61,10 @@ public:
     virtual std::optional<MemoryPages> memoryPages() = 0;
     /// Bytes; 0 when unknown.
     virtual uint64_t physicalMemory() = 0;
-    /// One entry for each interface of the link layer; empty when they cannot be listed.
-    virtual QList<InterfaceCounters> interfaces() = 0;
+    /// One entry for each interface of the link layer; absent when they cannot be listed.
+    virtual std::optional<QList<InterfaceCounters>> interfaces() = 0;
     virtual std::optional<VolumeCapacity> volumeCapacity(const QString &path) = 0;
-    /// Seconds that the machine has been awake.
+    /// Seconds since the machine was started, awake or not.
     virtual double uptime() = 0;
     virtual ThermalState thermalState() = 0;
 };

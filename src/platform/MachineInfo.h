@@ -6,7 +6,7 @@
 
 namespace brimlight {
 
-/// What this machine is. Does not change while the process runs, but for the host name.
+/// What this machine is; for any thread. Does not change while the process runs, but for the host name.
 class MachineInfo
 {
 public:

@@ -32,14 +32,21 @@ struct SmartBattery
     std::optional<int> maxCapacity;
 };
 
+/// Absent without a battery.
+struct PowerState
+{
+    /// The machine's batteries as one.
+    std::optional<PowerSourceDescription> source;
+    std::optional<SmartBattery> battery;
+};
+
+/// Batteries and what they are charged from.
 class PowerSources
 {
 public:
     virtual ~PowerSources() = default;
-    /// The first source; absent when there is none or it has no description.
-    virtual std::optional<PowerSourceDescription> first() = 0;
-    /// Absent without a battery.
-    virtual std::optional<SmartBattery> smartBattery() = 0;
+    /// Waits for the drivers; for a thread of its own.
+    virtual PowerState read() = 0;
 };
 
 } // namespace brimlight

@@ -20,7 +20,8 @@ public:
     Scheduled &operator=(const Scheduled &) = delete;
 };
 
-/// Time and delayed work on the main loop. Bodies never run inside the call that schedules them.
+/// Time and delayed work on the main loop, and what must not run on it. Bodies never run inside the call that
+/// schedules them.
 class Scheduler
 {
 public:
@@ -40,6 +41,10 @@ public:
     virtual std::unique_ptr<Scheduled> every(std::chrono::milliseconds period,
                                              std::chrono::milliseconds tolerance,
                                              std::function<void()> body) = 0;
+
+    /// Runs `work` on a thread of its own, which it may hold up for good, and then `done` on this loop,
+    /// unless `context` is gone by then. `work` owns or outlives all that it uses.
+    virtual void aside(QObject &context, std::function<void()> work, std::function<void()> done) = 0;
 };
 
 } // namespace brimlight

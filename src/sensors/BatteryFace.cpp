@@ -32,11 +32,17 @@ QColor resolveTint(const BatterySnapshot &snapshot, bool followsTheme, const QCo
     return snapshot.percent < redBelow ? signalColors::red : signalColors::orange;
 }
 
-BatteryFace::BatteryFace(WidgetContext &context, PowerSources &power)
+BatteryFace::BatteryFace(WidgetContext &context, PowerSampler &power)
     : WidgetLogic(context)
-    , m_power(power)
+    , m_power(power, [this](const PowerState &state) { take(state); })
 {
-    read();
+    m_power.takeLatest();
+}
+
+void BatteryFace::take(const PowerState &state)
+{
+    m_snapshot = BatteryReader::read(state);
+    Q_EMIT changed();
 }
 
 QString BatteryFace::number() const

@@ -2,6 +2,7 @@
 
 #include "grid/WidgetLogic.h"
 #include "sensors/BatteryReader.h"
+#include "sensors/Samplers.h"
 
 #include <QColor>
 
@@ -31,7 +32,7 @@ class BatteryFace : public brimlight::WidgetLogic
     Q_PROPERTY(QString colorMode READ colorMode NOTIFY changed)
 
 public:
-    BatteryFace(WidgetContext &context, PowerSources &power);
+    BatteryFace(WidgetContext &context, PowerSampler &power);
 
     double fraction() const { return std::max(m_snapshot.percent, 0) / 100.0; }
     /// The bare number, an em dash while it is unknown.
@@ -47,12 +48,13 @@ public:
     QString colorMode() const;
 
 protected:
-    void tick() override { read(); }
+    void tick() override { m_power.ask(); }
+    void appear() override { m_power.ask(); }
 
 private:
-    void read() { m_snapshot = BatteryReader::read(m_power); }
+    void take(const PowerState &state);
 
-    PowerSources &m_power;
+    Asker<PowerState> m_power;
     BatterySnapshot m_snapshot;
 };
 

@@ -12,10 +12,17 @@ QColor healthTint(int percent, const QColor &accent)
     return percent >= good ? accent : percent >= fair ? signalColors::orange : signalColors::red;
 }
 
-BatteryHealthFace::BatteryHealthFace(WidgetContext &context, PowerSources &power)
+BatteryHealthFace::BatteryHealthFace(WidgetContext &context, PowerSampler &power)
     : WidgetLogic(context)
-    , m_power(power)
+    , m_power(power, [this](const PowerState &state) { take(state); })
 {
+    m_power.takeLatest();
+}
+
+void BatteryHealthFace::take(const PowerState &state)
+{
+    m_snapshot = BatteryHealthReader::read(state);
+    Q_EMIT changed();
 }
 
 QString BatteryHealthFace::percent() const

@@ -2,6 +2,7 @@
 
 #include "grid/WidgetLogic.h"
 #include "sensors/BatteryHealthReader.h"
+#include "sensors/Samplers.h"
 
 #include <QColor>
 
@@ -23,7 +24,7 @@ class BatteryHealthFace : public brimlight::WidgetLogic
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
 
 public:
-    BatteryHealthFace(WidgetContext &context, PowerSources &power);
+    BatteryHealthFace(WidgetContext &context, PowerSampler &power);
 
     bool hasBattery() const { return m_snapshot.has_value(); }
     double fraction() const { return m_snapshot ? m_snapshot->healthPercent / 100.0 : 0; }
@@ -33,10 +34,12 @@ public:
     QColor tint() const;
 
 protected:
-    void appear() override { m_snapshot = BatteryHealthReader::read(m_power); }
+    void appear() override { m_power.ask(); }
 
 private:
-    PowerSources &m_power;
+    void take(const PowerState &state);
+
+    Asker<PowerState> m_power;
     std::optional<BatteryHealthSnapshot> m_snapshot;
 };
 

@@ -7,9 +7,9 @@
 
 namespace brimlight {
 
-std::optional<BatteryHealthSnapshot> BatteryHealthReader::read(PowerSources &sources)
+std::optional<BatteryHealthSnapshot> BatteryHealthReader::read(const PowerState &state)
 {
-    const auto battery = sources.smartBattery();
+    const auto &battery = state.battery;
     if (!battery)
         return std::nullopt;
     const int design = battery->designCapacity.value_or(0);

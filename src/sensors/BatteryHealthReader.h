@@ -4,7 +4,7 @@
 
 namespace brimlight {
 
-class PowerSources;
+struct PowerState;
 
 struct BatteryHealthSnapshot
 {
@@ -18,7 +18,7 @@ struct BatteryHealthSnapshot
 namespace BatteryHealthReader {
 
 /// Absent without a battery, and when its capacities are not known.
-std::optional<BatteryHealthSnapshot> read(PowerSources &sources);
+std::optional<BatteryHealthSnapshot> read(const PowerState &state);
 
 } // namespace BatteryHealthReader
 

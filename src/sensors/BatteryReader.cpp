@@ -16,9 +16,9 @@ int percent(const PowerSourceDescription &source)
 
 } // namespace
 
-BatterySnapshot BatteryReader::read(PowerSources &sources)
+BatterySnapshot BatteryReader::read(const PowerState &state)
 {
-    const auto source = sources.first();
+    const auto &source = state.source;
     if (!source)
         return {};
     return {.percent = percent(*source),

@@ -2,7 +2,7 @@
 
 namespace brimlight {
 
-class PowerSources;
+struct PowerState;
 
 /// The machine's first power source. The default is a machine without a battery, which counts as plugged in.
 struct BatterySnapshot
@@ -21,7 +21,7 @@ struct BatterySnapshot
 
 namespace BatteryReader {
 
-BatterySnapshot read(PowerSources &sources);
+BatterySnapshot read(const PowerState &state);
 
 } // namespace BatteryReader
 

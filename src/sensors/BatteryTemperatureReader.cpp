@@ -2,13 +2,12 @@
 
 namespace brimlight::BatteryTemperatureReader {
 
-std::optional<double> readFromSmartBattery(PowerSources &power)
+std::optional<double> readFromSmartBattery(const std::optional<SmartBattery> &battery)
 {
     constexpr double unitsPerDegree = 100.0;
     constexpr double highestThatIsCelsius = 200.0;
     constexpr double kelvinAtZeroCelsius = 273.15;
 
-    const auto battery = power.smartBattery();
     if (!battery || !battery->temperature)
         return std::nullopt;
     double degrees = *battery->temperature / unitsPerDegree;

@@ -20,11 +20,17 @@ QString diskStatus(double usedFraction)
     return usedFraction < watchFrom ? QStringLiteral("Healthy") : QStringLiteral("Watch");
 }
 
-DiskFace::DiskFace(WidgetContext &context, HostStatistics &statistics)
+DiskFace::DiskFace(WidgetContext &context, DiskSampler &disk)
     : WidgetLogic(context)
-    , m_statistics(statistics)
+    , m_disk(disk, [this](const DiskSnapshot &snapshot) { take(snapshot); })
 {
-    read();
+    m_disk.takeLatest();
+}
+
+void DiskFace::take(const DiskSnapshot &snapshot)
+{
+    m_snapshot = snapshot;
+    Q_EMIT changed();
 }
 
 QString DiskFace::percent() const

@@ -2,7 +2,7 @@
 
 #include "core/Formats.h"
 #include "grid/WidgetLogic.h"
-#include "sensors/DiskReader.h"
+#include "sensors/Samplers.h"
 
 #include <QColor>
 
@@ -25,7 +25,7 @@ class DiskFace : public brimlight::WidgetLogic
     Q_PROPERTY(QColor tint READ tint NOTIFY changed)
 
 public:
-    DiskFace(WidgetContext &context, HostStatistics &statistics);
+    DiskFace(WidgetContext &context, DiskSampler &disk);
 
     double fraction() const { return m_snapshot.usedFraction; }
     QString percent() const;
@@ -34,12 +34,13 @@ public:
     QColor tint() const { return diskTint(m_snapshot.usedFraction, theme().accentColor()); }
 
 protected:
-    void tick() override { read(); }
+    void tick() override { m_disk.ask(); }
+    void appear() override { m_disk.ask(); }
 
 private:
-    void read() { m_snapshot = DiskReader::read(m_statistics); }
+    void take(const DiskSnapshot &snapshot);
 
-    HostStatistics &m_statistics;
+    Asker<DiskSnapshot> m_disk;
     DiskSnapshot m_snapshot;
 };
 

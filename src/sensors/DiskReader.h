@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 
 namespace brimlight {
 
 class HostStatistics;
 
-/// The volume that holds the system; all 0 when it cannot be asked.
+/// The volume that fills up as the user works; all 0 when it cannot be asked.
 struct DiskSnapshot
 {
     /// From 0 to 1.
@@ -19,7 +21,9 @@ struct DiskSnapshot
 
 namespace DiskReader {
 
-DiskSnapshot read(HostStatistics &statistics);
+/// The volume of the system, or that of the user's `home` where the system's is read-only, in memory or too
+/// small to be anybody's disk.
+DiskSnapshot read(HostStatistics &statistics, const QString &home);
 
 } // namespace DiskReader
 

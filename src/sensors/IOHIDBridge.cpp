@@ -1,6 +1,5 @@
 #include "sensors/IOHIDBridge.h"
 
-#include "sensors/BatteryTemperatureReader.h"
 #include "sensors/TemperatureOutlierFilter.h"
 
 #include <algorithm>
@@ -17,8 +16,6 @@ constexpr std::array otherParts{"battery", "nand", "ambient", "case", "skin",
                                 "tcal",    "tdev", "charger", "wifi", "display"};
 constexpr std::array cpuParts{"cpu", "pacc", "eacc", "tdie"};
 
-const QString hidCategory = QStringLiteral("IOHIDBridge");
-
 template<typename Words>
 bool containsAny(const QString &text, const Words &words)
 {
@@ -28,24 +25,14 @@ bool containsAny(const QString &text, const Words &words)
 
 } // namespace
 
-std::unique_ptr<IOHIDBridge> IOHIDBridge::open(ThermalServices &services, PowerSources &power, Log &log,
-                                               Scheduler &scheduler)
+std::unique_ptr<IOHIDBridge> IOHIDBridge::open(ThermalServices &services)
 {
     const auto count = services.match();
-    if (!count) {
-        log.write(LogLevel::error, hidCategory,
-                  QStringLiteral("Thermal services cannot be listed — IOHID bridge disabled"));
-        return nullptr;
-    }
-    log.write(LogLevel::info, hidCategory,
-              QStringLiteral("IOHID temperature bridge ready (%1 services)").arg(*count));
-    return std::unique_ptr<IOHIDBridge>(new IOHIDBridge(services, power, scheduler, *count));
+    return count ? std::unique_ptr<IOHIDBridge>(new IOHIDBridge(services, *count)) : nullptr;
 }
 
-IOHIDBridge::IOHIDBridge(ThermalServices &services, PowerSources &power, Scheduler &scheduler, int count)
+IOHIDBridge::IOHIDBridge(ThermalServices &services, int count)
     : m_services(services)
-    , m_power(power)
-    , m_scheduler(scheduler)
     , m_count(count)
 {
 }
@@ -56,18 +43,17 @@ bool IOHIDBridge::isCpuName(const QString &name)
     return !containsAny(lower, otherParts) && containsAny(lower, cpuParts);
 }
 
-TemperatureReading IOHIDBridge::readTemperatureReading()
+std::optional<double> IOHIDBridge::readCpuMax()
 {
     std::vector<double> values;
     for (int service = 0; service < m_count; ++service) {
+        if (!isCpuName(m_services.name(service)))
+            continue;
         const auto celsius = m_services.celsius(service);
-        if (celsius && *celsius > lowestHidCelsius && *celsius < highestHidCelsius &&
-            isCpuName(m_services.name(service)))
+        if (celsius && *celsius > lowestHidCelsius && *celsius < highestHidCelsius)
             values.push_back(*celsius);
     }
-    return {.cpuMaxC = TemperatureOutlierFilter::maxRejectingOutliers(std::move(values)),
-            .batteryC = BatteryTemperatureReader::readFromSmartBattery(m_power),
-            .timestamp = m_scheduler.now()};
+    return TemperatureOutlierFilter::maxRejectingOutliers(std::move(values));
 }
 
 } // namespace brimlight

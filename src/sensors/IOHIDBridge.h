@@ -1,36 +1,31 @@
 #pragma once
 
-#include "platform/Log.h"
-#include "platform/PowerSources.h"
-#include "platform/Scheduler.h"
 #include "platform/ThermalServices.h"
-#include "sensors/TemperatureReading.h"
 
 #include <memory>
+#include <optional>
 
 namespace brimlight {
 
 /// The second source of temperatures: sensors that have a name and a value. Which of them are the processor's
-/// is told by the name.
+/// is told by the name. Every call waits for drivers.
 class IOHIDBridge
 {
 public:
-    /// Nothing, with a line in the log, when the services cannot be listed. Later ones are not noticed.
-    static std::unique_ptr<IOHIDBridge> open(ThermalServices &services, PowerSources &power, Log &log,
-                                             Scheduler &scheduler);
+    /// Nothing when the services cannot be listed. Later ones are not noticed.
+    static std::unique_ptr<IOHIDBridge> open(ThermalServices &services);
 
     /// Whether a sensor of this name belongs to the processor.
     static bool isCpuName(const QString &name);
 
-    /// Parts that cannot be read are absent, perhaps both.
-    TemperatureReading readTemperatureReading();
+    int count() const { return m_count; }
+    /// Degrees Celsius; absent when no sensor of the processor can be read.
+    std::optional<double> readCpuMax();
 
 private:
-    IOHIDBridge(ThermalServices &services, PowerSources &power, Scheduler &scheduler, int count);
+    IOHIDBridge(ThermalServices &services, int count);
 
     ThermalServices &m_services;
-    PowerSources &m_power;
-    Scheduler &m_scheduler;
     int m_count;
 };
 

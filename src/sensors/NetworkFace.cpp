@@ -1,13 +1,15 @@
 #include "sensors/NetworkFace.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace brimlight {
 
-NetworkFace::NetworkFace(WidgetContext &context, HostStatistics &statistics)
+NetworkFace::NetworkFace(WidgetContext &context, NetworkSampler &counters)
     : WidgetLogic(context)
-    , m_reader(statistics)
+    , m_counters(counters, [this](const NetworkCounters &answer) { take(answer); })
 {
+    m_counters.takeLatest();
 }
 
 QList<double> NetworkFace::bars() const
@@ -21,10 +23,22 @@ QList<double> NetworkFace::bars() const
 
 void NetworkFace::tick()
 {
-    m_snapshot = m_reader.read();
-    m_history.append(m_snapshot.down);
+    m_isForTick = true;
+    m_counters.ask();
+}
+
+void NetworkFace::take(const NetworkCounters &counters)
+{
+    const bool isForTick = std::exchange(m_isForTick, false);
+    const auto rates = m_reader.read(counters);
+    if (!rates)
+        return;
+    m_snapshot = *rates;
+    if (isForTick)
+        m_history.append(m_snapshot.down);
     if (m_history.size() > longestHistory)
         m_history.removeFirst();
+    Q_EMIT changed();
 }
 
 } // namespace brimlight

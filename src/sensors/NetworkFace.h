@@ -6,7 +6,8 @@
 
 namespace brimlight {
 
-/// What the network widget shows. Every widget has a baseline of its own, so its first rates are zero.
+/// What the network widget shows. Every widget has a baseline of its own, so its very first rates are zero;
+/// when it appears it measures them at once, and never over the time that nobody saw it.
 class NetworkFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
@@ -21,7 +22,7 @@ class NetworkFace : public brimlight::WidgetLogic
 public:
     static constexpr qsizetype longestHistory = 24;
 
-    NetworkFace(WidgetContext &context, HostStatistics &statistics);
+    NetworkFace(WidgetContext &context, NetworkSampler &counters);
 
     QString down() const { return formats::rate(m_snapshot.down); }
     QString up() const { return formats::rate(m_snapshot.up); }
@@ -32,11 +33,17 @@ public:
 
 protected:
     void tick() override;
+    void appear() override { m_counters.askForRate(); }
 
 private:
+    void take(const NetworkCounters &counters);
+
+    Asker<NetworkCounters> m_counters;
     NetworkReader m_reader;
     NetSnapshot m_snapshot;
     QList<double> m_history;
+    /// The answer under way belongs to a tick, which makes one bar.
+    bool m_isForTick = false;
 };
 
 } // namespace brimlight

@@ -1,36 +1,38 @@
 #include "sensors/NetworkReader.h"
 
-#include "platform/HostStatistics.h"
+#include <utility>
 
 namespace brimlight {
+namespace {
 
-NetSnapshot NetworkReader::read()
+/// A counter that is lower than before was reset in between.
+double growth(uint64_t from, uint64_t to)
 {
-    const Totals total = totals();
-    const double now = m_statistics.uptime();
-    NetSnapshot snapshot;
-    if (m_prevTime > 0 && m_prevTime < now) {
-        const double dt = now - m_prevTime;
-        snapshot.up = static_cast<double>(total.out - m_prevOut) / dt;
-        snapshot.down = static_cast<double>(total.in - m_prevIn) / dt;
-    }
-    m_prevIn = total.in;
-    m_prevOut = total.out;
-    m_prevTime = now;
-    return snapshot;
+    return static_cast<double>(to >= from ? to - from : to);
 }
 
-NetworkReader::Totals NetworkReader::totals()
+} // namespace
+
+std::optional<NetSnapshot> NetworkReader::read(const NetworkCounters &counters)
 {
-    Totals sum;
-    const QList<InterfaceCounters> interfaces = m_statistics.interfaces();
-    for (const InterfaceCounters &counters : interfaces) {
-        if (counters.name.startsWith(QLatin1String("lo")))
+    if (!counters.links)
+        return std::nullopt;
+    const auto from = std::exchange(m_prevTime, counters.uptime);
+    const double dt = counters.uptime - from.value_or(counters.uptime);
+    QHash<QString, Bytes> links;
+    NetSnapshot snapshot;
+    for (const InterfaceCounters &link : *counters.links) {
+        if (link.name.startsWith(QLatin1String("lo")))
             continue;
-        sum.in += counters.received;
-        sum.out += counters.sent;
+        const Bytes before = m_prev.value(link.name);
+        links.insert(link.name, {.in = link.received, .out = link.sent});
+        if (dt > 0) {
+            snapshot.up += growth(before.out, link.sent) / dt;
+            snapshot.down += growth(before.in, link.received) / dt;
+        }
     }
-    return sum;
+    m_prev = links;
+    return from && dt <= longestBaselineSeconds ? std::optional(snapshot) : std::nullopt;
 }
 
 } // namespace brimlight

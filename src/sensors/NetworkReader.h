@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
+#include "sensors/Samplers.h"
+
+#include <QHash>
 
 namespace brimlight {
-
-class HostStatistics;
 
 /// Bytes per second over all interfaces but the loopback ones.
 struct NetSnapshot
@@ -15,32 +15,26 @@ struct NetSnapshot
     bool operator==(const NetSnapshot &) const = default;
 };
 
-/// Measures the rate between one call and the next, so each view needs one of its own. A counter that wraps
-/// or restarts makes one sample huge.
+/// Measures the rate between one call and the next, so each view needs one of its own. Links are followed one
+/// by one: one that has gone takes nothing away from the others, one that is new or has been reset counts
+/// from zero.
 class NetworkReader
 {
 public:
-    explicit NetworkReader(HostStatistics &statistics)
-        : m_statistics(statistics)
-    {
-    }
-
-    /// The first call, and one within the same tick of the clock, report 0; each moves the baseline.
-    NetSnapshot read();
+    /// Absent without a baseline: on the first call, after a pause, and when the interfaces cannot be listed,
+    /// which alone leaves the baseline as it was. Within one tick of the clock the rates are 0.
+    std::optional<NetSnapshot> read(const NetworkCounters &counters);
 
 private:
-    struct Totals
+    struct Bytes
     {
         uint64_t in = 0;
         uint64_t out = 0;
     };
-    Totals totals();
 
-    HostStatistics &m_statistics;
-    uint64_t m_prevIn = 0;
-    uint64_t m_prevOut = 0;
-    /// Seconds of uptime; 0 before the first sample.
-    double m_prevTime = 0;
+    QHash<QString, Bytes> m_prev;
+    /// Seconds of uptime; absent before the first sample.
+    std::optional<double> m_prevTime;
 };
 
 } // namespace brimlight

@@ -1,9 +1,7 @@
 #include "sensors/SMCBridge.h"
 
-#include "sensors/BatteryTemperatureReader.h"
 #include "sensors/PersistentDenylistStore.h"
 #include "sensors/TemperatureOutlierFilter.h"
-#include "sensors/TemperatureValueDecoder.h"
 
 #include <algorithm>
 #include <array>
@@ -14,22 +12,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A sensor outside of these, both excluded, is broken or absent; degrees Celsius.
-constexpr double lowestCelsius = 0.0;
-constexpr double highestCelsius = 150.0;
 constexpr std::chrono::milliseconds calibrationWindow = 60s;
 
 const QString category = QStringLiteral("SMCBridge");
-
-std::optional<double> plausibleCelsius(const std::optional<SMCConnection::Value> &value)
-{
-    if (!value)
-        return std::nullopt;
-    const auto celsius =
-        TemperatureValueDecoder::decodeSMCFloat(value->data, value->info.dataSize, value->info.dataType);
-    const bool isPlausible = celsius && *celsius > lowestCelsius && *celsius < highestCelsius;
-    return isPlausible ? celsius : std::nullopt;
-}
 
 /// Halves go to the even digit, as in C; Qt rounds them up.
 QString oneDecimal(double value)
@@ -41,72 +26,23 @@ QString oneDecimal(double value)
 
 } // namespace
 
-std::unique_ptr<SMCBridge> SMCBridge::open(SmcTransport &transport, MachineInfo &machine, PowerSources &power,
-                                           UserDefaults &defaults, Log &log, Scheduler &scheduler)
-{
-    auto connection = SMCConnection::open(transport);
-    if (!connection)
-        return nullptr;
-    return std::unique_ptr<SMCBridge>(
-        new SMCBridge(std::move(connection), machine, power, defaults, log, scheduler));
-}
-
-SMCBridge::SMCBridge(std::unique_ptr<SMCConnection> connection, MachineInfo &machine, PowerSources &power,
-                     UserDefaults &defaults, Log &log, Scheduler &scheduler)
-    : m_connection(std::move(connection))
-    , m_power(power)
+SMCBridge::SMCBridge(const SmcInventory &inventory, UserDefaults &defaults, Log &log)
+    : m_inventory(inventory)
     , m_defaults(defaults)
     , m_log(log)
-    , m_scheduler(scheduler)
-    , m_chip(machine.chip().value_or(QStringLiteral("unknown")))
-    , m_model(machine.model().value_or(QStringLiteral("unknown")))
-    , m_osBuild(PersistentDenylistStore::currentOSBuild(machine))
-    , m_keys(discoverSensorKeys())
 {
-    const QSet<QString> preset = HotSpotClassifier::hardcodedHotSpotDenylist(m_chip);
+    const QSet<QString> preset = HotSpotClassifier::hardcodedHotSpotDenylist(m_inventory.chip);
     for (const QString &key : preset) {
-        if (m_keys.cpu.contains(key))
+        if (m_inventory.cpuKeys.contains(key))
             m_denylist.insert(key);
     }
     const int restored = restoreDenylist();
     logReady(preset.size(), restored);
 }
 
-bool SMCBridge::isCpuKey(const QString &key)
-{
-    if (key.startsWith(QLatin1String("TC")))
-        return true;
-    constexpr qsizetype keyLength = 4;
-    return key.size() == keyLength &&
-           (key.startsWith(QLatin1String("Tp")) || key.startsWith(QLatin1String("Te")) ||
-            key.startsWith(QLatin1String("Tf")));
-}
-
-SMCBridge::SensorKeys SMCBridge::discoverSensorKeys()
-{
-    SensorKeys found;
-    const uint32_t count = m_connection->keyCount().value_or(0);
-    for (uint32_t index = 0; index < count; ++index) {
-        const auto key = m_connection->keyAt(index);
-        if (key && isFloatSensor(*key) && isCpuKey(*key))
-            found.cpu.append(*key);
-    }
-    return found;
-}
-
-bool SMCBridge::isFloatSensor(const QString &key)
-{
-    constexpr uint32_t singleSize = 4;
-    const auto info = m_connection->readKeyInfo(SMCConnection::keyCode(key));
-    if (!info || info->dataSize != singleSize || info->dataType != TemperatureValueDecoder::smcFloatType)
-        return false;
-    // A key that has an info but no value is no sensor.
-    return m_connection->readValue(key).has_value();
-}
-
 QString SMCBridge::storageKey() const
 {
-    return PersistentDenylistStore::storageKey(m_chip, m_model, m_osBuild);
+    return PersistentDenylistStore::storageKey(m_inventory.chip, m_inventory.model, m_inventory.osBuild);
 }
 
 int SMCBridge::restoreDenylist()
@@ -118,7 +54,7 @@ int SMCBridge::restoreDenylist()
     m_calibrationDone = true;
     const qsizetype before = m_denylist.size();
     for (const QString &key : *persisted) {
-        if (m_keys.cpu.contains(key))
+        if (m_inventory.cpuKeys.contains(key))
             m_denylist.insert(key);
     }
     return static_cast<int>(m_denylist.size() - before);
@@ -126,7 +62,7 @@ int SMCBridge::restoreDenylist()
 
 void SMCBridge::logReady(qsizetype preset, int restored)
 {
-    if (m_keys.cpu.isEmpty() && m_keys.gpu.isEmpty()) {
+    if (m_inventory.cpuKeys.isEmpty() && m_inventory.gpuKeys.isEmpty()) {
         m_log.write(LogLevel::notice, category,
                     QStringLiteral("SMC bridge opened but no float temperature keys were discovered"));
         return;
@@ -134,59 +70,42 @@ void SMCBridge::logReady(qsizetype preset, int restored)
     m_log.write(LogLevel::info, category,
                 QStringLiteral("SMC bridge ready (chip=%1, model=%2, build=%3, cpu=%4, gpu=%5, preset=%6, "
                                "restored=%7, calibration=%8)")
-                    .arg(m_chip, m_model, m_osBuild, QString::number(m_keys.cpu.size()),
-                         QString::number(m_keys.gpu.size()), QString::number(preset),
+                    .arg(m_inventory.chip, m_inventory.model, m_inventory.osBuild,
+                         QString::number(m_inventory.cpuKeys.size()),
+                         QString::number(m_inventory.gpuKeys.size()), QString::number(preset),
                          QString::number(restored),
                          m_calibrationDone ? QStringLiteral("skipped") : QStringLiteral("pending")));
 }
 
-std::optional<double> SMCBridge::readBatteryTemperature()
+std::optional<TemperatureReading> SMCBridge::reading(SmcSamples samples, std::optional<double> batteryC,
+                                                     const QDateTime &now)
 {
-    const auto celsius = plausibleCelsius(m_connection->readValue(QStringLiteral("B0AT")));
-    const bool isBattery = celsius && *celsius > BatteryTemperatureReader::lowestCelsius &&
-                           *celsius < BatteryTemperatureReader::highestCelsius;
-    return isBattery ? celsius : std::nullopt;
-}
-
-std::optional<TemperatureReading> SMCBridge::readTemperatureReading()
-{
-    const std::vector<Sample> samples = readSamples();
+    const auto isDenied = [this](const SmcSamples::Sample &sample) {
+        return m_denylist.contains(sample.key);
+    };
+    // Whoever read them may not have known yet.
+    if (m_calibrationDone)
+        std::erase_if(samples.cpu, isDenied);
+    else
+        updateCalibration(samples, now);
+    // On the one read that closes the window, what has just been found counts a last time.
     if (!m_calibrationDone)
-        updateCalibration(samples);
-    // Once the window has closed, the samples hold no denied key but on this one read: what has just been
-    // found counts a last time.
+        std::erase_if(samples.cpu, isDenied);
     std::vector<double> values;
-    for (const Sample &sample : samples) {
-        if (m_calibrationDone || !m_denylist.contains(sample.key))
-            values.push_back(sample.temp);
-    }
-    TemperatureReading reading;
-    reading.batteryC = readBatteryTemperature();
-    if (!reading.batteryC)
-        reading.batteryC = BatteryTemperatureReader::readFromSmartBattery(m_power);
-    reading.cpuMaxC = TemperatureOutlierFilter::maxRejectingOutliers(std::move(values));
-    reading.timestamp = m_scheduler.now();
+    for (const SmcSamples::Sample &sample : samples.cpu)
+        values.push_back(sample.temp);
+    const TemperatureReading reading{.cpuMaxC =
+                                         TemperatureOutlierFilter::maxRejectingOutliers(std::move(values)),
+                                     .batteryC = samples.batteryC ? samples.batteryC : batteryC,
+                                     .timestamp = now};
     return reading.cpuMaxC || reading.batteryC ? std::optional(reading) : std::nullopt;
 }
 
-std::vector<SMCBridge::Sample> SMCBridge::readSamples()
+void SMCBridge::updateCalibration(const SmcSamples &samples, const QDateTime &now)
 {
-    std::vector<Sample> samples;
-    for (const QString &key : m_keys.cpu) {
-        if (m_calibrationDone && m_denylist.contains(key))
-            continue;
-        if (const auto celsius = plausibleCelsius(m_connection->readValue(key)))
-            samples.push_back({key, *celsius});
-    }
-    return samples;
-}
-
-void SMCBridge::updateCalibration(const std::vector<Sample> &samples)
-{
-    const QDateTime now = m_scheduler.now();
     if (!m_calibrationStart)
         m_calibrationStart = now;
-    for (const Sample &sample : samples) {
+    for (const SmcSamples::Sample &sample : samples.cpu) {
         if (m_denylist.contains(sample.key))
             continue;
         double &peak = m_calibrationPeaks[sample.key];
@@ -225,6 +144,7 @@ void SMCBridge::logCalibration(const HotSpotClassifier::HotSpots &found)
                 .arg(QString::number(m_calibrationPeaks.size()), oneDecimal(found.baseline), total));
         return;
     }
+    using Sample = SmcSamples::Sample;
     std::vector<Sample> hot;
     for (auto peak = m_calibrationPeaks.begin(); peak != m_calibrationPeaks.end(); ++peak) {
         if (found.denylist.contains(peak.key()))

@@ -31,7 +31,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .hasSettings = true},
          .view = widgetView("Sensors", "BatteryView"),
          .settingsView = widgetView("Sensors", "BatterySettings"),
-         .makeLogic = makes<BatteryFace>(stores.power)},
+         .makeLogic = makes<BatteryFace>(stores.powerSampler)},
         // The wear of the battery.
         {.metadata = {.kind = QStringLiteral("batteryhealth"),
                       .displayName = QStringLiteral("Battery Health"),
@@ -40,7 +40,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .defaultSize = WidgetSize::small,
                       .refresh = RefreshCadence::never()},
          .view = widgetView("Sensors", "BatteryHealthView"),
-         .makeLogic = makes<BatteryHealthFace>(stores.power)},
+         .makeLogic = makes<BatteryHealthFace>(stores.powerSampler)},
         // The load of processor and memory.
         {.metadata = {.kind = QStringLiteral("system"),
                       .displayName = QStringLiteral("CPU / RAM"),
@@ -49,7 +49,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .defaultSize = WidgetSize::wide,
                       .refresh = RefreshCadence::seconds(2)},
          .view = widgetView("Sensors", "SystemView"),
-         .makeLogic = makes<SystemFace>(stores.platform.statistics)},
+         .makeLogic = makes<SystemFace>(stores.systemSampler)},
         // The load of processor and memory over time.
         {.metadata = {.kind = QStringLiteral("usagegraph"),
                       .displayName = QStringLiteral("CPU / RAM Graph"),
@@ -69,7 +69,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .defaultSize = WidgetSize::large,
                       .refresh = RefreshCadence::seconds(5)},
          .view = widgetView("Sensors", "SystemInfoView"),
-         .makeLogic = makes<SystemInfoFace>(stores.platform.statistics, stores.platform.machine)},
+         .makeLogic = makes<SystemInfoFace>(stores.machineSampler)},
         // The temperature of the processor.
         {.metadata = {.kind = QStringLiteral("temperature"),
                       .displayName = QStringLiteral("Temperature"),
@@ -78,7 +78,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .defaultSize = WidgetSize::small,
                       .refresh = RefreshCadence::seconds(2)},
          .view = widgetView("Sensors", "TemperatureView"),
-         .makeLogic = makes<TemperatureFace>(stores.temperature, stores.platform.statistics)},
+         .makeLogic = makes<TemperatureFace>(stores.temperature, stores.thermalStateSampler)},
         // The traffic of the network.
         {.metadata = {.kind = QStringLiteral("network"),
                       .displayName = QStringLiteral("Network"),
@@ -88,7 +88,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .defaultSize = WidgetSize::wide,
                       .refresh = RefreshCadence::seconds(1)},
          .view = widgetView("Sensors", "NetworkView"),
-         .makeLogic = makes<NetworkFace>(stores.platform.statistics)},
+         .makeLogic = makes<NetworkFace>(stores.networkSampler)},
         // The space on the disk.
         {.metadata = {.kind = QStringLiteral("disk"),
                       .displayName = QStringLiteral("Disk"),
@@ -97,7 +97,7 @@ std::vector<WidgetDefinition> sensorWidgets([[maybe_unused]] Stores &stores)
                       .defaultSize = WidgetSize::small,
                       .refresh = RefreshCadence::seconds(10)},
          .view = widgetView("Sensors", "DiskView"),
-         .makeLogic = makes<DiskFace>(stores.platform.statistics)},
+         .makeLogic = makes<DiskFace>(stores.diskSampler)},
         // The spectrum of the microphone.
         {.metadata = {.kind = QStringLiteral("audio"),
                       .displayName = QStringLiteral("Audio Visualizer"),

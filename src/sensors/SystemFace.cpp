@@ -1,7 +1,6 @@
 #include "sensors/SystemFace.h"
 
 #include "core/Formats.h"
-#include "platform/HostStatistics.h"
 #include "theme/SignalColors.h"
 
 namespace brimlight {
@@ -19,11 +18,18 @@ QString ramDetail(double usedFraction, uint64_t total)
     return QString::asprintf("RAM %.1f / %.0f GB", usedFraction * gigabytes, gigabytes);
 }
 
-SystemFace::SystemFace(WidgetContext &context, HostStatistics &statistics)
+SystemFace::SystemFace(WidgetContext &context, SystemSampler &counters)
     : WidgetLogic(context)
-    , m_statistics(statistics)
-    , m_reader(statistics)
+    , m_counters(counters, [this](const SystemCounters &answer) { take(answer); })
 {
+    m_counters.takeLatest();
+}
+
+void SystemFace::take(const SystemCounters &counters)
+{
+    m_snapshot = m_reader.read(counters);
+    m_physicalMemory = counters.physicalMemory;
+    Q_EMIT changed();
 }
 
 QString SystemFace::cpuText() const
@@ -38,7 +44,7 @@ QString SystemFace::ramText() const
 
 QString SystemFace::detail() const
 {
-    return ramDetail(ram(), m_statistics.physicalMemory());
+    return ramDetail(ram(), m_physicalMemory);
 }
 
 } // namespace brimlight

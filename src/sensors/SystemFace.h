@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/WidgetLogic.h"
+#include "sensors/Samplers.h"
 #include "sensors/SystemReader.h"
 
 #include <QColor>
@@ -11,7 +12,8 @@ QColor loadTint(double fraction, const QColor &accent);
 /// "RAM 5.2 / 16 GB"; `total` in bytes.
 QString ramDetail(double usedFraction, uint64_t total);
 
-/// What the processor and memory widget shows. Every widget has a baseline of its own.
+/// What the processor and memory widget shows. Every widget has a baseline of its own; when it appears it
+/// measures the load at once, and never over the time that nobody saw it.
 class SystemFace : public brimlight::WidgetLogic
 {
     Q_OBJECT
@@ -26,7 +28,7 @@ class SystemFace : public brimlight::WidgetLogic
     Q_PROPERTY(QString detail READ detail NOTIFY changed)
 
 public:
-    SystemFace(WidgetContext &context, HostStatistics &statistics);
+    SystemFace(WidgetContext &context, SystemSampler &counters);
 
     double cpu() const { return m_snapshot.cpu; }
     double ram() const { return m_snapshot.memUsed; }
@@ -37,12 +39,16 @@ public:
     QString detail() const;
 
 protected:
-    void tick() override { m_snapshot = m_reader.read(); }
+    void tick() override { m_counters.ask(); }
+    void appear() override { m_counters.askForRate(); }
 
 private:
-    HostStatistics &m_statistics;
+    void take(const SystemCounters &counters);
+
+    Asker<SystemCounters> m_counters;
     SystemReader m_reader;
     SystemSnapshot m_snapshot;
+    uint64_t m_physicalMemory = 0;
 };
 
 } // namespace brimlight

@@ -2,10 +2,10 @@
 
 namespace brimlight {
 
-SystemHistoryStore::SystemHistoryStore(HostStatistics &statistics, Scheduler &scheduler, QObject *parent)
+SystemHistoryStore::SystemHistoryStore(SystemSampler &counters, Scheduler &scheduler, QObject *parent)
     : QObject(parent)
     , m_scheduler(scheduler)
-    , m_reader(statistics)
+    , m_counters(counters, [this](const SystemCounters &sample) { take(sample); })
 {
 }
 
@@ -17,13 +17,13 @@ void SystemHistoryStore::setActive(bool active)
         m_timer.reset();
         return;
     }
-    sample();
-    m_timer = m_scheduler.every(interval, std::chrono::milliseconds::zero(), [this] { sample(); });
+    m_counters.ask();
+    m_timer = m_scheduler.every(interval, std::chrono::milliseconds::zero(), [this] { m_counters.ask(); });
 }
 
-void SystemHistoryStore::sample()
+void SystemHistoryStore::take(const SystemCounters &counters)
 {
-    m_snapshot = m_reader.read();
+    m_snapshot = m_reader.read(counters);
     Q_EMIT snapshotChanged();
     m_cpuHistory = m_reader.cpuHistory();
     Q_EMIT cpuHistoryChanged();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Scheduler.h"
+#include "sensors/Samplers.h"
 #include "sensors/SystemReader.h"
 
 #include <QObject>
@@ -23,9 +24,10 @@ class SystemHistoryStore : public QObject
 public:
     static constexpr std::chrono::milliseconds interval{2000};
 
-    SystemHistoryStore(HostStatistics &statistics, Scheduler &scheduler, QObject *parent = nullptr);
+    SystemHistoryStore(SystemSampler &counters, Scheduler &scheduler, QObject *parent = nullptr);
 
-    /// Starts with a sample at once, or stops; the history stays. The same value again changes nothing.
+    /// Starts by asking for a sample at once, or stops; the history stays. The same value again changes
+    /// nothing.
     void setActive(bool active);
     bool isActive() const { return m_timer != nullptr; }
 
@@ -40,9 +42,10 @@ Q_SIGNALS:
     void memHistoryChanged();
 
 private:
-    void sample();
+    void take(const SystemCounters &counters);
 
     Scheduler &m_scheduler;
+    Asker<SystemCounters> m_counters;
     SystemReader m_reader;
     SystemSnapshot m_snapshot;
     QList<double> m_cpuHistory;

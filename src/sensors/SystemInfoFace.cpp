@@ -1,17 +1,14 @@
 #include "sensors/SystemInfoFace.h"
 
 #include "core/Formats.h"
-#include "platform/HostStatistics.h"
-#include "platform/MachineInfo.h"
 
 namespace brimlight {
 
-SystemInfoFace::SystemInfoFace(WidgetContext &context, HostStatistics &statistics, MachineInfo &info)
+SystemInfoFace::SystemInfoFace(WidgetContext &context, MachineSampler &facts)
     : WidgetLogic(context)
-    , m_statistics(statistics)
-    , m_info(info)
+    , m_facts(facts, [this](const MachineFacts &answer) { take(answer); })
 {
-    read();
+    m_facts.takeLatest();
 }
 
 QStringList SystemInfoFace::labels() const
@@ -20,10 +17,11 @@ QStringList SystemInfoFace::labels() const
             QStringLiteral("Chip")};
 }
 
-void SystemInfoFace::read()
+void SystemInfoFace::take(const MachineFacts &facts)
 {
-    m_values = {formats::daysHoursMinutes(static_cast<int64_t>(m_statistics.uptime())), m_info.osVersion(),
-                m_info.hostName().remove(QStringLiteral(".local")), m_info.chip().value_or(QString())};
+    m_values = {formats::daysHoursMinutes(static_cast<int64_t>(facts.uptime)), facts.osVersion,
+                QString(facts.hostName).remove(QStringLiteral(".local")), facts.chip};
+    Q_EMIT changed();
 }
 
 } // namespace brimlight

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "grid/WidgetLogic.h"
+#include "sensors/Samplers.h"
 
 namespace brimlight {
-
-class HostStatistics;
-class MachineInfo;
 
 /// What the system info widget shows: four rows of label and value.
 class SystemInfoFace : public brimlight::WidgetLogic
@@ -17,19 +15,20 @@ class SystemInfoFace : public brimlight::WidgetLogic
     Q_PROPERTY(QStringList values READ values NOTIFY changed)
 
 public:
-    SystemInfoFace(WidgetContext &context, HostStatistics &statistics, MachineInfo &info);
+    SystemInfoFace(WidgetContext &context, MachineSampler &facts);
 
     QStringList labels() const;
     QStringList values() const { return m_values; }
 
 protected:
-    void tick() override { read(); }
+    void tick() override { m_facts.ask(); }
+    void appear() override { m_facts.ask(); }
 
 private:
-    void read();
+    void take(const MachineFacts &facts);
 
-    HostStatistics &m_statistics;
-    MachineInfo &m_info;
+    Asker<MachineFacts> m_facts;
+    /// Empty until they are known.
     QStringList m_values;
 };
 

@@ -8,7 +8,7 @@
 
 namespace brimlight {
 
-class HostStatistics;
+struct SystemCounters;
 
 /// Load of the processors and share of the memory in use, each from 0 to 1.
 struct SystemSnapshot
@@ -32,25 +32,21 @@ class SystemReader
 public:
     static constexpr qsizetype historyLength = 60;
 
-    explicit SystemReader(HostStatistics &statistics)
-        : m_statistics(statistics)
-    {
-    }
-
-    /// Takes one sample. The first has no load yet and reports 0.
-    SystemSnapshot read();
+    /// Takes one sample. The first has no load yet and reports 0; the first after a pause keeps the last
+    /// load, for the mean of the pause says nothing of now.
+    SystemSnapshot read(const SystemCounters &counters);
 
     /// Oldest first, at most `historyLength` values each.
     const QList<double> &cpuHistory() const { return m_cpuHistory; }
     const QList<double> &memHistory() const { return m_memHistory; }
 
 private:
-    std::optional<double> readCPU();
-    std::optional<double> readMemoryUsed();
+    std::optional<double> readCPU(const SystemCounters &counters);
 
-    HostStatistics &m_statistics;
     uint64_t m_prevTotal = 0;
     uint64_t m_prevIdle = 0;
+    /// Seconds of uptime.
+    double m_prevTime = 0;
     double m_lastCPU = 0;
     double m_lastMem = 0;
     QList<double> m_cpuHistory;

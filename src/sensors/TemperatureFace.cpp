@@ -36,13 +36,16 @@ QString thermalStateText(ThermalState state)
 }
 
 TemperatureFace::TemperatureFace(WidgetContext &context, TemperatureService &temperature,
-                                 HostStatistics &statistics)
+                                 ThermalStateSampler &state)
     : WidgetLogic(context)
     , m_temperature(temperature)
-    , m_statistics(statistics)
-    , m_state(statistics.thermalState())
+    , m_thermalState(state, [this](ThermalState answer) {
+        m_state = answer;
+        Q_EMIT changed();
+    })
 {
     connect(&temperature, &TemperatureService::latestChanged, this, &TemperatureFace::changed);
+    m_thermalState.takeLatest();
 }
 
 QString TemperatureFace::unit() const
@@ -50,12 +53,12 @@ QString TemperatureFace::unit() const
     return settings().celsius() ? QStringLiteral("°C") : QStringLiteral("°F");
 }
 
-void TemperatureFace::tick()
+void TemperatureFace::refresh()
 {
     m_temperature.refresh();
     // It stands in for a temperature, and asking for it is dear: every zone and every fan has to answer.
     if (!cpu())
-        m_state = m_statistics.thermalState();
+        m_thermalState.ask();
 }
 
 std::optional<double> TemperatureFace::cpu() const

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "grid/WidgetLogic.h"
-#include "platform/HostStatistics.h"
 #include "sensors/TemperatureService.h"
 
 #include <QColor>
@@ -31,7 +30,7 @@ class TemperatureFace : public brimlight::WidgetLogic
     Q_PROPERTY(QString stateText READ stateText NOTIFY changed)
 
 public:
-    TemperatureFace(WidgetContext &context, TemperatureService &temperature, HostStatistics &statistics);
+    TemperatureFace(WidgetContext &context, TemperatureService &temperature, ThermalStateSampler &state);
 
     bool hasCpu() const { return cpu().has_value(); }
     double fraction() const { return temperatureFraction(cpu().value_or(0)); }
@@ -46,16 +45,18 @@ public:
     QString stateText() const { return thermalStateText(m_state); }
 
 protected:
-    void tick() override;
+    void tick() override { refresh(); }
+    void appear() override { refresh(); }
 
 private:
+    void refresh();
     std::optional<double> cpu() const;
     std::optional<double> battery() const;
     QString number(std::optional<double> celsius) const;
 
     TemperatureService &m_temperature;
-    HostStatistics &m_statistics;
-    ThermalState m_state;
+    Asker<ThermalState> m_thermalState;
+    ThermalState m_state = ThermalState::nominal;
 };
 
 } // namespace brimlight

@@ -2,6 +2,7 @@
 
 #include "platform/HostStatistics.h"
 
+#include <QHash>
 #include <QStringList>
 
 namespace brimlight::test {
@@ -17,11 +18,14 @@ public:
     }
     std::optional<MemoryPages> memoryPages() override { return pages; }
     uint64_t physicalMemory() override { return physical; }
-    QList<InterfaceCounters> interfaces() override { return links; }
+    std::optional<QList<InterfaceCounters>> interfaces() override
+    {
+        return canListLinks ? std::optional(links) : std::nullopt;
+    }
     std::optional<VolumeCapacity> volumeCapacity(const QString &path) override
     {
         volumesAsked.append(path);
-        return capacity;
+        return volumes.contains(path) ? volumes.value(path) : capacity;
     }
     double uptime() override { return seconds; }
     ThermalState thermalState() override { return thermal; }
@@ -30,7 +34,10 @@ public:
     std::optional<MemoryPages> pages;
     uint64_t physical = 0;
     QList<InterfaceCounters> links;
+    bool canListLinks = true;
+    /// Of the volumes that are not in `volumes`.
     std::optional<VolumeCapacity> capacity;
+    QHash<QString, VolumeCapacity> volumes;
     double seconds = 0;
     ThermalState thermal = ThermalState::nominal;
 

@@ -7,14 +7,18 @@ namespace brimlight::test {
 class FakePowerSources : public PowerSources
 {
 public:
-    std::optional<PowerSourceDescription> first() override { return source; }
-    std::optional<SmartBattery> smartBattery() override { return battery; }
+    PowerState read() override
+    {
+        ++reads;
+        return {source, battery};
+    }
 
     /// Hundredths of a degree.
     void setTemperature(double hundredths) { battery = SmartBattery{.temperature = hundredths}; }
 
     std::optional<PowerSourceDescription> source;
     std::optional<SmartBattery> battery;
+    int reads = 0;
 };
 
 } // namespace brimlight::test

@@ -45,6 +45,23 @@ std::unique_ptr<Scheduled> ManualScheduler::add(Entry entry)
     return std::make_unique<Handle>(*this, std::move(shared));
 }
 
+void ManualScheduler::aside(QObject &context, std::function<void()> work, std::function<void()> done)
+{
+    std::vector<Posted> &queue = m_isAsideHeld ? m_held : m_posted;
+    queue.push_back({&context, [work = std::move(work), done = std::move(done)] {
+                         work();
+                         done();
+                     }});
+}
+
+void ManualScheduler::letAsideGo()
+{
+    m_isAsideHeld = false;
+    std::move(m_held.begin(), m_held.end(), std::back_inserter(m_posted));
+    m_held.clear();
+    runPosted();
+}
+
 void ManualScheduler::runPosted()
 {
     while (!m_posted.empty()) {

@@ -19,6 +19,14 @@ public:
     std::unique_ptr<Scheduled> after(std::chrono::milliseconds delay, std::function<void()> body) override;
     std::unique_ptr<Scheduled> every(std::chrono::milliseconds period, std::chrono::milliseconds tolerance,
                                      std::function<void()> body) override;
+    /// The work runs with what has been posted, unless it is held.
+    void aside(QObject &context, std::function<void()> work, std::function<void()> done) override;
+
+    /// From now on what is put aside hangs, until it is let go.
+    void holdAside() { m_isAsideHeld = true; }
+    void letAsideGo();
+    /// How much hangs.
+    int heldCount() const { return static_cast<int>(m_held.size()); }
 
     /// Runs what has been posted, and what that posts in its turn.
     void runPosted();
@@ -54,6 +62,8 @@ private:
     std::chrono::milliseconds m_elapsed{0};
     std::list<std::shared_ptr<Entry>> m_entries;
     std::vector<Posted> m_posted;
+    bool m_isAsideHeld = false;
+    std::vector<Posted> m_held;
 };
 
 } // namespace brimlight::test

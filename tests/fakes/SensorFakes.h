@@ -130,11 +130,16 @@ public:
         ++matched;
         return canList ? std::optional(static_cast<int>(services.size())) : std::nullopt;
     }
-    std::optional<double> celsius(int service) override { return services.at(service).celsius; }
+    std::optional<double> celsius(int service) override
+    {
+        asked.append(service);
+        return services.at(service).celsius;
+    }
     QString name(int service) override { return services.at(service).name; }
 
     bool canList = true;
     int matched = 0;
+    QList<int> asked;
     std::vector<Service> services;
 };
 

@@ -3,6 +3,8 @@
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
 #include "fixtures/machines.h"
+#include "platform/linux/kernel/SysfsPowerSources.h"
+#include "sensors/BatteryTemperatureReader.h"
 #include "sensors/SMCBridge.h"
 #include "sensors/TemperatureValueDecoder.h"
 
@@ -16,16 +18,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Long enough for what answers on a busy machine.
-constexpr auto ample = 10s;
-
 /// A machine's sensors as the other side of the protocol sees them.
 class Sensors
 {
 public:
-    explicit Sensors(const Machine &machine, std::chrono::milliseconds patience = ample)
-        : reader(patience)
-        , smc(reader, machine.sys())
+    explicit Sensors(const Machine &machine)
+        : smc(machine.sys())
         , connection(SMCConnection::open(smc))
     {
     }
@@ -46,22 +44,44 @@ public:
                                                        value->info.dataType);
     }
 
-    BoundedRead reader;
     HwmonSmc smc;
     std::unique_ptr<SMCConnection> connection;
 };
 
-std::optional<TemperatureReading> readingOf(const Machine &machine)
+/// A machine's temperatures as the program reads them, with time by hand.
+class Temperatures
 {
-    BoundedRead reader(ample);
-    HwmonSmc smc(reader, machine.sys());
+public:
+    explicit Temperatures(const Machine &machine, MemoryDefaults &remembered)
+        : smc(machine.sys())
+        , battery(SysfsPowerSources(machine.sys()).read().battery)
+        , sensors(SMCSensors::open(smc, info))
+    {
+        if (sensors)
+            bridge.emplace(sensors->inventory(), remembered, log);
+    }
+
+    std::optional<TemperatureReading> read()
+    {
+        if (!bridge)
+            return std::nullopt;
+        return bridge->reading(sensors->read({}), BatteryTemperatureReader::readFromSmartBattery(battery),
+                               scheduler.now());
+    }
+
+    HwmonSmc smc;
     FakeMachine info;
-    FakePowerSources power;
-    MemoryDefaults defaults;
+    std::optional<SmartBattery> battery;
     RecordingLog log;
     ManualScheduler scheduler;
-    const auto bridge = SMCBridge::open(smc, info, power, defaults, log, scheduler);
-    return bridge ? bridge->readTemperatureReading() : std::nullopt;
+    std::unique_ptr<SMCSensors> sensors;
+    std::optional<SMCBridge> bridge;
+};
+
+std::optional<TemperatureReading> readingOf(const Machine &machine)
+{
+    MemoryDefaults defaults;
+    return Temperatures(machine, defaults).read();
 }
 
 /// Adds a chip in the simplest place. Each sensor is a label, which may be empty, and millidegrees.
@@ -84,9 +104,47 @@ QString coretempFile(const Machine &machine, const char *file)
     return machine.hwmon(QStringLiteral("coretemp")) + u'/' + QLatin1String(file);
 }
 
+/// Leaves a laptop's chip with its four cores alone.
+void dropPackage(const Machine &machine)
+{
+    for (const char *file : {"temp1_input", "temp1_label"})
+        machine.remove(coretempFile(machine, file));
+}
+
+/// What the temperature widget would show while the sensors are being watched, and afterwards.
+std::vector<std::optional<double>> steadyCelsius(const Machine &machine)
+{
+    MemoryDefaults defaults;
+    Temperatures temperatures(machine, defaults);
+    std::vector<std::optional<double>> celsius;
+    for (int reading = 0; reading < 3; ++reading) {
+        const auto taken = temperatures.read();
+        celsius.push_back(taken ? taken->cpuMaxC : std::nullopt);
+        temperatures.scheduler.advance(60s);
+    }
+    return celsius;
+}
+
 } // namespace
 
-TEST(HwmonSmc, ALaptopGivesItsHottestCoreAndItsBattery)
+TEST(HwmonSmc, AHotCoreAmongManyIsThePackagesTemperature)
+{
+    const Machine machine(MachineKind::desktopHybrid);
+    EXPECT_EQ(steadyCelsius(machine), (std::vector<std::optional<double>>{95, 95, 95}));
+    machine.write(coretempFile(machine, "temp1_input"), "51000\n");
+    EXPECT_EQ(readingOf(machine)->cpuMaxC, 51) << "no core speaks for the package";
+}
+
+TEST(HwmonSmc, AHotDieAmongManyIsTheProcessorsTemperature)
+{
+    const Machine machine(MachineKind::serverEpyc);
+    EXPECT_EQ(steadyCelsius(machine), (std::vector<std::optional<double>>{84, 84, 84}));
+    EXPECT_EQ(Sensors(machine).keys(), QStringList{QStringLiteral("TC0P")});
+    machine.removeHwmon(QStringLiteral("k10temp"));
+    EXPECT_TRUE(readingOf(machine)->cpuMaxC) << "the others go on";
+}
+
+TEST(HwmonSmc, ALaptopGivesItsPackageAndItsBattery)
 {
     const auto intel = readingOf(Machine(MachineKind::laptopIntel));
     ASSERT_TRUE(intel);
@@ -108,8 +166,7 @@ TEST(HwmonSmc, ABoardGivesItsOneSensor)
 TEST(HwmonSmc, WithoutHwmonThereIsNoController)
 {
     EXPECT_FALSE(Sensors(Machine(MachineKind::virtualMachine)).connection);
-    BoundedRead reader(ample);
-    HwmonSmc nowhere(reader, QStringLiteral("/nonexistent"));
+    HwmonSmc nowhere(QStringLiteral("/nonexistent"));
     EXPECT_FALSE(nowhere.open());
 }
 
@@ -124,11 +181,19 @@ TEST(HwmonSmc, ListsTheProcessorBeforeTheOthers)
 {
     const Machine machine(MachineKind::laptopIntel);
     const Sensors sensors(machine);
-    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("B0AT Tp00 Tp01 Tp02 Tp03 Tp04 Ts00 Ts01 Ts02"));
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("TC0P Ts00 Ts01 Ts02 Ts03 Ts04 Ts05 Ts06"));
+    EXPECT_EQ(sensors.celsius("TC0P"), 52) << "Package id 0";
+}
+
+TEST(HwmonSmc, CoresCountWhereNothingSpeaksForThePackage)
+{
+    const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
+    const Sensors sensors(machine);
+    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("Tp00 Tp01 Tp02 Tp03 Ts00 Ts01 Ts02"));
     EXPECT_EQ(sensors.celsius("Tp00"), 50) << "Core 0";
     EXPECT_EQ(sensors.celsius("Tp01"), 49) << "Core 1";
-    EXPECT_EQ(sensors.celsius("Tp04"), 52) << "Package id 0";
-    EXPECT_NEAR(sensors.celsius("B0AT").value(), 29.8, 1e-5);
+    EXPECT_EQ(readingOf(machine)->cpuMaxC, 52);
 }
 
 TEST(HwmonSmc, AnInfoSaysFloatForTheProcessorOnly)
@@ -138,8 +203,7 @@ TEST(HwmonSmc, AnInfoSaysFloatForTheProcessorOnly)
     const auto info = [&sensors](const char *key) {
         return sensors.connection->readKeyInfo(SmcLayout::code(key));
     };
-    EXPECT_EQ(info("Tp00"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
-    EXPECT_EQ(info("B0AT"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
+    EXPECT_EQ(info("TC0P"), (SMCConnection::KeyInfo{4, SmcLayout::code("flt "), 0}));
     EXPECT_EQ(info("Ts00"), (SMCConnection::KeyInfo{2, SmcLayout::code("sp78"), 0}));
     EXPECT_FALSE(info("Ts99"));
     const auto firmware = sensors.connection->readValue(QStringLiteral("Ts00"));
@@ -150,8 +214,7 @@ TEST(HwmonSmc, AnInfoSaysFloatForTheProcessorOnly)
 TEST(HwmonSmc, AnswersNothingThatItWasNotAsked)
 {
     const Machine machine(MachineKind::boardArm);
-    BoundedRead reader(ample);
-    HwmonSmc smc(reader, machine.sys());
+    HwmonSmc smc(machine.sys());
     EXPECT_NE(smc.call(1, {}).returnCode, 0) << "not open";
     const auto connection = smc.open();
     ASSERT_TRUE(connection);
@@ -191,7 +254,7 @@ TEST(HwmonSmc, TwoChipsOfANameAreToldApartByTheirDevices)
         for (int socket = 0; socket < 2; ++socket) {
             const QString device = QStringLiteral("sys/devices/platform/coretemp.%1").arg(socket);
             const QString chip = QStringLiteral("hwmon%1").arg(swapped ? 1 - socket : socket);
-            addChip(machine, chip, "coretemp", {{"Package", 40000 + 1000 * socket}});
+            addChip(machine, chip, "coretemp", {{"Core 0", 40000 + 1000 * socket}});
             machine.write(device + QStringLiteral("/modalias"), "platform:coretemp\n");
             ASSERT_TRUE(QFile::link(machine.path(device),
                                     machine.path(QStringLiteral("sys/class/hwmon/%1/device").arg(chip))));
@@ -229,16 +292,28 @@ TEST(HwmonSmc, FirmwareForAllPartsCountsByItsLabels)
     EXPECT_EQ(sensors.celsius("Tp01"), 55);
 }
 
-TEST(HwmonSmc, TheTrueDieTemperatureReplacesTheControlValue)
+TEST(HwmonSmc, TheTrueDieTemperatureComesBeforeTheControlValueAndBothBeforeTheChiplets)
+{
+    for (const char *chip : {"k10temp", "zenpower"}) {
+        const Machine machine(MachineKind::virtualMachine);
+        addChip(machine, QStringLiteral("hwmon0"), chip,
+                {{"Tctl", 75000}, {"Tdie", 48000}, {"Tccd1", 90000}});
+        EXPECT_EQ(Sensors(machine).keys().join(u' '), QStringLiteral("TC0P Ts00 Ts01"));
+        EXPECT_EQ(readingOf(machine)->cpuMaxC, 48) << "Tdie of " << chip;
+        addChip(machine, QStringLiteral("hwmon0"), chip, {{"Tctl", 75000}, {"Tccd1", 48000}});
+        machine.remove(QStringLiteral("sys/class/hwmon/hwmon0/temp3_label"));
+        EXPECT_EQ(readingOf(machine)->cpuMaxC, 75) << "Tctl of " << chip;
+    }
+}
+
+TEST(HwmonSmc, TheHottestOfTwoPackagesCounts)
 {
     const Machine machine(MachineKind::virtualMachine);
-    addChip(machine, QStringLiteral("hwmon0"), "k10temp",
-            {{"Tctl", 75000}, {"Tdie", 48000}, {"Tccd1", 47000}});
-    const Sensors sensors(machine);
-    EXPECT_EQ(sensors.keys().join(u' '), QStringLiteral("Tp00 Tp01 Ts00"));
-    EXPECT_EQ(sensors.celsius("Tp00"), 47) << "Tccd1";
-    EXPECT_EQ(sensors.celsius("Tp01"), 48) << "Tdie";
-    EXPECT_EQ(readingOf(machine)->cpuMaxC, 48);
+    addChip(machine, QStringLiteral("hwmon0"), "coretemp", {{"Package id 0", 61000}, {"Core 0", 99000}});
+    addChip(machine, QStringLiteral("hwmon1"), "coretemp", {{"Package id 1", 72000}, {"Core 0", 40000}});
+    EXPECT_EQ(Sensors(machine).celsius("TC0P"), 72);
+    machine.write(QStringLiteral("sys/class/hwmon/hwmon1/temp1_input"), "gone\n");
+    EXPECT_EQ(Sensors(machine).celsius("TC0P"), 61);
 }
 
 TEST(HwmonSmc, ManySensorsHaveKeysOfTheirOwn)
@@ -260,6 +335,7 @@ TEST(HwmonSmc, ManySensorsHaveKeysOfTheirOwn)
 TEST(HwmonSmc, AFileThatVanishesHoldsGarbageOrFailsIsAFailure)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const Sensors sensors(machine);
     const QString core0 = coretempFile(machine, "temp2_input");
     for (const char *garbage : {"", "\n", "fifty\n", "50000 mC\n", "50.0\n", "99999999999999999999\n"}) {
@@ -280,6 +356,7 @@ TEST(HwmonSmc, AFileThatVanishesHoldsGarbageOrFailsIsAFailure)
 TEST(HwmonSmc, AChipThatComesBackUnderAnotherNumberIsNotMistaken)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const Sensors sensors(machine);
     const QString number = machine.hwmon(QStringLiteral("coretemp"));
     machine.removeHwmon(QStringLiteral("coretemp"));
@@ -290,6 +367,7 @@ TEST(HwmonSmc, AChipThatComesBackUnderAnotherNumberIsNotMistaken)
 TEST(HwmonSmc, AnImpossibleValueIsPassedOnAndDroppedInTheReading)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     machine.write(coretempFile(machine, "temp2_input"), "65273000\n");
     machine.write(coretempFile(machine, "temp3_input"), "-5000\n");
     EXPECT_EQ(Sensors(machine).celsius("Tp00"), 65273);
@@ -297,32 +375,19 @@ TEST(HwmonSmc, AnImpossibleValueIsPassedOnAndDroppedInTheReading)
     EXPECT_EQ(readingOf(machine)->cpuMaxC, 52);
 }
 
-TEST(HwmonSmc, ASensorThatBlocksFailsAndTheOthersGoOn)
-{
-    const Machine machine(MachineKind::laptopIntel);
-    const Sensors sensors(machine, 250ms);
-    const QString pipe = machine.makeBlocking(coretempFile(machine, "temp2_input"));
-    EXPECT_FALSE(sensors.celsius("Tp00"));
-    EXPECT_FALSE(sensors.celsius("Tp00"));
-    EXPECT_EQ(sensors.reader.lateCount(), 1) << "asked once";
-    EXPECT_EQ(sensors.celsius("Tp01"), 49);
-    QFile writer(pipe);
-    EXPECT_TRUE(writer.open(QIODevice::WriteOnly)) << "lets the reader go";
-}
-
 TEST(HwmonSmc, ASleepingDeviceIsNotRead)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
     const QString status = QStringLiteral("sys/devices/platform/coretemp.0/power/runtime_status");
-    const Sensors sensors(machine, 250ms);
+    const Sensors sensors(machine);
     EXPECT_EQ(sensors.celsius("Tp00"), 50);
-    // Reading this would block, and so would be noticed.
+    // Reading this would hang for good.
     const QString core0 = coretempFile(machine, "temp2_input");
     machine.makeBlocking(core0);
     for (const char *asleep : {"suspended\n", "suspending\n"}) {
         machine.write(status, asleep);
         EXPECT_FALSE(sensors.celsius("Tp00")) << asleep;
-        EXPECT_EQ(sensors.reader.lateCount(), 0) << asleep;
     }
     machine.remove(core0);
     machine.write(core0, "50000\n");
@@ -335,59 +400,29 @@ TEST(HwmonSmc, ASleepingDeviceIsNotRead)
 TEST(HwmonSmc, ListingTheKeysDoesNotReadOtherPartsSensors)
 {
     const Machine machine(MachineKind::laptopIntel);
+    dropPackage(machine);
+    // Reading this would hang for good.
     machine.makeBlocking(machine.hwmon(QStringLiteral("nvme")) + QStringLiteral("/temp1_input"));
-    BoundedRead reader(ample);
-    HwmonSmc smc(reader, machine.sys());
-    FakeMachine info;
-    FakePowerSources power;
     MemoryDefaults defaults;
-    RecordingLog log;
-    ManualScheduler scheduler;
-    EXPECT_TRUE(SMCBridge::open(smc, info, power, defaults, log, scheduler));
-    EXPECT_TRUE(log.messages().first().contains(QLatin1String("cpu=5, gpu=0")));
-    EXPECT_EQ(reader.lateCount(), 0);
-}
-
-TEST(HwmonSmc, TheBatteryIsTheSystemsOwn)
-{
-    const Machine machine(MachineKind::laptopAmd);
-    const QString supplies = QStringLiteral("sys/class/power_supply/");
-    machine.write(supplies + QStringLiteral("hidpp_battery_0/temp"), "210\n");
-    machine.write(supplies + QStringLiteral("ACAD/temp"), "220\n");
-    const Sensors sensors(machine);
-    EXPECT_FALSE(sensors.celsius("B0AT")) << "neither the mouse's nor the adapter's";
-    EXPECT_FALSE(sensors.keys().contains(QStringLiteral("B0AT")));
-    machine.write(supplies + QStringLiteral("BAT1/temp"), "355\n");
-    EXPECT_NEAR(sensors.celsius("B0AT").value(), 35.5, 1e-5) << "told later";
-    machine.write(supplies + QStringLiteral("BAT1/temp"), "warm\n");
-    EXPECT_FALSE(sensors.celsius("B0AT"));
-    machine.write(supplies + QStringLiteral("BAT2/type"), "Battery\n");
-    machine.write(supplies + QStringLiteral("BAT2/temp"), "-12\n");
-    EXPECT_NEAR(sensors.celsius("B0AT").value(), -1.2, 1e-5) << "the next one that tells";
-    machine.remove(supplies + QStringLiteral("BAT2"));
-    EXPECT_FALSE(sensors.celsius("B0AT")) << "taken out";
+    EXPECT_EQ(Temperatures(machine, defaults).sensors->inventory().cpuKeys.size(), 4);
 }
 
 TEST(HwmonSmc, CalibrationIsSkippedAtTheNextBootEvenWithOtherNumbers)
 {
-    FakeMachine info;
-    FakePowerSources power;
     MemoryDefaults defaults;
-    RecordingLog log;
-    ManualScheduler scheduler;
     for (const int boot : {0, 3}) {
         const Machine machine(MachineKind::laptopIntel, boot);
+        dropPackage(machine);
         machine.write(coretempFile(machine, "temp4_input"), "95000\n");
-        BoundedRead reader(ample);
-        HwmonSmc smc(reader, machine.sys());
-        const auto bridge = SMCBridge::open(smc, info, power, defaults, log, scheduler);
-        ASSERT_TRUE(bridge);
-        EXPECT_TRUE(bridge->readTemperatureReading());
-        scheduler.advance(60s);
-        EXPECT_TRUE(bridge->readTemperatureReading());
-        EXPECT_EQ(bridge->readTemperatureReading()->cpuMaxC, 52) << "boot " << boot;
+        Temperatures temperatures(machine, defaults);
+        EXPECT_TRUE(temperatures.read());
+        temperatures.scheduler.advance(60s);
+        EXPECT_TRUE(temperatures.read());
+        EXPECT_EQ(temperatures.read()->cpuMaxC, 52) << "boot " << boot;
+        const QString calibration = boot == 0 ? QStringLiteral("restored=0, calibration=pending)")
+                                              : QStringLiteral("restored=1, calibration=skipped)");
+        EXPECT_TRUE(temperatures.log.messages().first().endsWith(calibration));
     }
-    EXPECT_TRUE(log.messages().last().endsWith(QLatin1String("restored=1, calibration=skipped)")));
 }
 
 } // namespace brimlight::test

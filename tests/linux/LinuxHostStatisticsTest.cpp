@@ -2,6 +2,7 @@
 
 #include "fixtures/machines.h"
 #include "sensors/DiskReader.h"
+#include "sensors/NetworkReader.h"
 #include "sensors/SystemReader.h"
 
 #include <gtest/gtest.h>
@@ -13,11 +14,8 @@
 
 namespace brimlight::test {
 
-using namespace std::chrono_literals;
-
 namespace {
 
-constexpr auto ample = 10s;
 constexpr uint64_t kibibyte = 1024;
 constexpr uint64_t page = 4096;
 
@@ -39,7 +37,7 @@ struct OnMachine
     }
 
     Machine machine;
-    LinuxHostStatistics statistics{machine.proc(), machine.sys(), ample};
+    LinuxHostStatistics statistics{machine.proc(), machine.sys()};
 };
 
 uint64_t sum(const MemoryPages &pages)
@@ -150,17 +148,67 @@ TEST(HostStatistics, RecordedMachines)
 TEST(HostStatistics, ARecordedMachineUnderLoad)
 {
     OnMachine on(MachineKind::laptopIntel);
-    SystemReader reader(on.statistics);
-    EXPECT_NEAR(reader.read().memUsed, 0.4363, 0.0001);
+    SystemReader reader;
+    EXPECT_NEAR(reader.read(systemCounters(on.statistics)).memUsed, 0.4363, 0.0001);
     on.machine.write(QStringLiteral("proc/stat"), "cpu  251470 1873 70934 5194071 9720 0 4316 0 0 0\n");
-    EXPECT_DOUBLE_EQ(reader.read().cpu, 0.6);
+    EXPECT_DOUBLE_EQ(reader.read(systemCounters(on.statistics)).cpu, 0.6);
+}
+
+TEST(Interfaces, AreThoseOfTheTableWithTheirWideCounters)
+{
+    OnMachine on(MachineKind::desktopHybrid);
+    const auto link = [](const char *name, uint64_t received, uint64_t sent) {
+        return InterfaceCounters{.name = QLatin1String(name), .received = received, .sent = sent};
+    };
+    EXPECT_EQ(on.statistics.interfaces(),
+              (QList<InterfaceCounters>{link("lo", 8812345678, 8812345678),
+                                        link("enp5s0", 987654321012, 12345678901),
+                                        link("tun0", 5000000000, 700000000), link("docker0", 120000, 340000),
+                                        link("veth5f1c2ab", 90000000, 80000000)}));
+}
+
+TEST(Interfaces, ATunnelCountsAndAContainersEndIsNoTraffic)
+{
+    OnMachine on(MachineKind::desktopHybrid);
+    NetworkReader reader;
+    reader.read(networkCounters(on.statistics));
+    const QString table = QStringLiteral("proc/net/dev");
+    QFile file(on.machine.path(table));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray after = file.readAll();
+    after.truncate(after.indexOf("veth"));
+    after.replace("987654321012", "987654323012").replace("5000000000", "5000001500");
+    on.machine.write(table, after);
+    on.machine.write(QStringLiteral("proc/uptime"), "273647.18 2190000.40\n");
+    const auto snapshot = reader.read(networkCounters(on.statistics));
+    ASSERT_TRUE(snapshot);
+    EXPECT_NEAR(snapshot->down, 700, 1e-6) << "2000 and 1500 bytes in five seconds";
+    EXPECT_EQ(snapshot->up, 0);
+}
+
+TEST(Interfaces, WhatIsNoSuchTableIsRefused)
+{
+    const QByteArray headings = "Inter-|   Receive |  Transmit\n face |bytes packets|bytes packets\n";
+    for (const char *bytes : {"", "\n", "eth0: 1 2 3 4 5 6 7 8 9 10\n", "a\nb\nc\n"})
+        EXPECT_FALSE(parseInterfaces(bytes)) << bytes;
+    EXPECT_EQ(parseInterfaces(headings), QList<InterfaceCounters>());
+    for (const char *line : {"eth0: 1 2 3\n", "eth0 1 2 3 4 5 6 7 8 9 10\n", "eth0: x 0 0 0 0 0 0 0 9 0\n",
+                             "eth0: 1 0 0 0 0 0 0 0 -9 0\n", "eth0:\n", ":\n"})
+        EXPECT_EQ(parseInterfaces(headings + line), QList<InterfaceCounters>()) << line;
+}
+
+TEST(HostStatistics, UptimeIsThatOfTheKernelsFile)
+{
+    EXPECT_EQ(OnMachine(MachineKind::desktopHybrid).statistics.uptime(), 273642.18);
+    EXPECT_EQ(OnMachine(MachineKind::laptopIntel).statistics.uptime(), 13829.54);
 }
 
 TEST(HostStatistics, MissingFilesAreAbsentCounters)
 {
-    LinuxHostStatistics nowhere(QStringLiteral("/nowhere"), QStringLiteral("/nowhere"), ample);
+    LinuxHostStatistics nowhere(QStringLiteral("/nowhere"), QStringLiteral("/nowhere"));
     EXPECT_FALSE(nowhere.cpuTicks());
     EXPECT_FALSE(nowhere.memoryPages());
+    EXPECT_FALSE(nowhere.interfaces());
     EXPECT_EQ(nowhere.physicalMemory(), 0U);
     EXPECT_EQ(nowhere.thermalState(), ThermalState::nominal);
     EXPECT_FALSE(nowhere.volumeCapacity(QStringLiteral("/nowhere/at/all")));
@@ -224,15 +272,6 @@ TEST(HostStatistics, AProcessorThatIsSlowedDownIsWarm)
     EXPECT_EQ(on.statistics.thermalState(), ThermalState::nominal);
 }
 
-TEST(HostStatistics, AZoneThatHangsDoesNotHideTheOthers)
-{
-    const Machine machine(MachineKind::laptopAmd);
-    const QString hung = machine.makeBlocking(QStringLiteral("sys/class/thermal/thermal_zone0/temp"));
-    machine.write(QStringLiteral("sys/class/thermal/cooling_device0/cur_state"), "10\n");
-    LinuxHostStatistics statistics(machine.proc(), machine.sys(), 1s);
-    EXPECT_EQ(statistics.thermalState(), ThermalState::serious);
-}
-
 TEST(HostStatisticsOfThisMachine, TicksAgreeWithTheProcessorsAddedUp)
 {
     LinuxHostStatistics statistics;
@@ -287,8 +326,9 @@ TEST(HostStatisticsOfThisMachine, InterfacesAreThoseOfTheKernelsTable)
     do {
         table = namesInTable();
         names.clear();
-        const QList<InterfaceCounters> interfaces = statistics.interfaces();
-        for (const InterfaceCounters &counters : interfaces)
+        const auto interfaces = statistics.interfaces();
+        ASSERT_TRUE(interfaces);
+        for (const InterfaceCounters &counters : *interfaces)
             names.append(counters.name);
         names.sort();
     } while (table != namesInTable());
@@ -298,14 +338,39 @@ TEST(HostStatisticsOfThisMachine, InterfacesAreThoseOfTheKernelsTable)
 
 TEST(HostStatisticsOfThisMachine, TheRootVolumeIsAskedForTheUsersShare)
 {
-    LinuxHostStatistics statistics(QStringLiteral("/proc"), QStringLiteral("/sys"), ample);
-    const DiskSnapshot disk = DiskReader::read(statistics);
+    LinuxHostStatistics statistics(QStringLiteral("/proc"), QStringLiteral("/sys"));
     const QStorageInfo root(QStringLiteral("/"));
+    const DiskSnapshot disk = DiskReader::read(statistics, QStringLiteral("/"));
     EXPECT_EQ(disk.totalBytes, root.bytesTotal());
     // Others write meanwhile.
     EXPECT_NEAR(static_cast<double>(disk.freeBytes), static_cast<double>(root.bytesAvailable()), 1e9);
     EXPECT_GE(disk.usedFraction, 0);
     EXPECT_LE(disk.usedFraction, 1);
+}
+
+TEST(HostStatisticsOfThisMachine, AVolumeInMemoryIsKnown)
+{
+    LinuxHostStatistics statistics(QStringLiteral("/proc"), QStringLiteral("/sys"));
+    const auto memory = statistics.volumeCapacity(QStringLiteral("/dev/shm"));
+    ASSERT_TRUE(memory);
+    EXPECT_TRUE(memory->isInMemory);
+    const auto proc = statistics.volumeCapacity(QStringLiteral("/proc"));
+    ASSERT_TRUE(proc);
+    EXPECT_FALSE(proc->isInMemory);
+}
+
+TEST(HostStatisticsOfThisMachine, UptimeIsThatOfOtherPrograms)
+{
+    const auto ofFile = [] {
+        QFile file(QStringLiteral("/proc/uptime"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll().split(' ').first().toDouble();
+    };
+    LinuxHostStatistics statistics;
+    const double before = ofFile();
+    const double between = statistics.uptime();
+    EXPECT_LE(before, between);
+    EXPECT_LE(between, ofFile());
 }
 
 TEST(HostStatisticsOfThisMachine, UptimeIsAboveZeroAndNeverGoesBack)

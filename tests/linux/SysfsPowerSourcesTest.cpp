@@ -6,20 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
-#include <thread>
-
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace brimlight::test {
 
-using namespace std::chrono_literals;
-
 namespace {
-
-constexpr auto ample = 10s;
 
 QString supply(const char *rest)
 {
@@ -34,10 +23,24 @@ protected:
         machine.write(supply(file), content + '\n');
     }
     void unset(const char *file) const { machine.remove(supply(file)); }
-    BatterySnapshot read() { return BatteryReader::read(sources); }
+    BatterySnapshot read() { return BatteryReader::read(sources.read()); }
 
-    Machine machine{MachineKind::laptopIntel};
-    SysfsPowerSources sources{machine.sys(), ample};
+    explicit PowerSourcesTest(MachineKind kind = MachineKind::laptopIntel)
+        : machine(kind)
+    {
+    }
+
+    Machine machine;
+    SysfsPowerSources sources{machine.sys()};
+};
+
+class TwoBatteriesTest : public PowerSourcesTest
+{
+protected:
+    TwoBatteriesTest()
+        : PowerSourcesTest(MachineKind::laptopTwoBatteries)
+    {
+    }
 };
 
 } // namespace
@@ -51,52 +54,52 @@ TEST_F(PowerSourcesTest, ALaptopOnItsBattery)
                                        .hasBattery = true,
                                        .timeToEmpty = 185,
                                        .timeToFull = -1}));
-    EXPECT_EQ(BatteryHealthReader::read(sources),
+    EXPECT_EQ(BatteryHealthReader::read(sources.read()),
               (BatteryHealthSnapshot{.cycleCount = 187, .healthPercent = 90}));
-    EXPECT_EQ(sources.smartBattery()->temperature, 2980);
+    EXPECT_EQ(sources.read().battery->temperature, 2980);
 }
 
 TEST(PowerSources, ALaptopThatCharges)
 {
     const Machine machine(MachineKind::laptopAmd);
-    SysfsPowerSources sources(machine.sys(), ample);
+    SysfsPowerSources sources(machine.sys());
     // 12.825 Wh at 8.93 W; the mouse's battery is somebody else's.
-    EXPECT_EQ(BatteryReader::read(sources), (BatterySnapshot{.percent = 75,
-                                                             .isCharging = true,
-                                                             .isPluggedIn = true,
-                                                             .hasBattery = true,
-                                                             .timeToEmpty = -1,
-                                                             .timeToFull = 86}));
-    EXPECT_EQ(BatteryHealthReader::read(sources),
+    EXPECT_EQ(BatteryReader::read(sources.read()), (BatterySnapshot{.percent = 75,
+                                                                    .isCharging = true,
+                                                                    .isPluggedIn = true,
+                                                                    .hasBattery = true,
+                                                                    .timeToEmpty = -1,
+                                                                    .timeToFull = 86}));
+    EXPECT_EQ(BatteryHealthReader::read(sources.read()),
               (BatteryHealthSnapshot{.cycleCount = 241, .healthPercent = 90}));
-    EXPECT_FALSE(sources.smartBattery()->temperature);
+    EXPECT_FALSE(sources.read().battery->temperature);
 }
 
 TEST(PowerSources, MachinesWithoutABattery)
 {
     for (const MachineKind kind : {MachineKind::boardArm, MachineKind::virtualMachine}) {
         const Machine machine(kind);
-        SysfsPowerSources sources(machine.sys(), ample);
-        EXPECT_EQ(BatteryReader::read(sources), BatterySnapshot{});
-        EXPECT_FALSE(BatteryHealthReader::read(sources));
+        SysfsPowerSources sources(machine.sys());
+        EXPECT_EQ(BatteryReader::read(sources.read()), BatterySnapshot{});
+        EXPECT_FALSE(BatteryHealthReader::read(sources.read()));
     }
-    SysfsPowerSources nowhere(QStringLiteral("/nowhere"), ample);
-    EXPECT_FALSE(nowhere.first());
-    EXPECT_FALSE(nowhere.smartBattery());
+    SysfsPowerSources nowhere(QStringLiteral("/nowhere"));
+    EXPECT_FALSE(nowhere.read().source);
+    EXPECT_FALSE(nowhere.read().battery);
 }
 
 TEST(PowerSources, AMousesBatteryDoesNotMakeADesktopALaptop)
 {
     const Machine machine(MachineKind::laptopAmd);
     machine.remove(supply("BAT1"));
-    SysfsPowerSources sources(machine.sys(), ample);
-    EXPECT_FALSE(sources.first());
-    EXPECT_FALSE(sources.smartBattery());
+    SysfsPowerSources sources(machine.sys());
+    EXPECT_FALSE(sources.read().source);
+    EXPECT_FALSE(sources.read().battery);
 }
 
 TEST_F(PowerSourcesTest, TheCapacitiesAreMilliamperesOrTenthsOfMilliwattsTimesHours)
 {
-    const auto charge = sources.smartBattery();
+    const auto charge = sources.read().battery;
     EXPECT_EQ(charge->designCapacity, 4400);
     EXPECT_EQ(charge->rawMaxCapacity, 3960);
     EXPECT_FALSE(charge->maxCapacity);
@@ -104,33 +107,124 @@ TEST_F(PowerSourcesTest, TheCapacitiesAreMilliamperesOrTenthsOfMilliwattsTimesHo
     unset("BAT0/charge_full_design");
     set("BAT0/energy_full_design", "57000000");
     set("BAT0/energy_full", "51300000");
-    const auto energy = sources.smartBattery();
+    const auto energy = sources.read().battery;
     EXPECT_EQ(energy->designCapacity, 5700);
     EXPECT_EQ(energy->rawMaxCapacity, 5130);
 }
 
-TEST_F(PowerSourcesTest, OnlyTheFirstOfTwoBatteriesByNameCounts)
+TEST_F(TwoBatteriesTest, AreOneChargeOfTheirEnergiesAndPowers)
 {
-    set("BAT1/type", "Battery");
-    set("BAT1/status", "Charging");
-    set("BAT1/capacity", "11");
-    set("BAT1/cycle_count", "5");
-    EXPECT_EQ(read().percent, 72);
-    EXPECT_EQ(sources.smartBattery()->cycleCount, 187);
-    unset("BAT0");
-    EXPECT_EQ(read().percent, 11);
-    EXPECT_EQ(sources.smartBattery()->cycleCount, 5);
+    // 24 of 60 Wh at 9 W; the wear is 60 of 72 Wh.
+    EXPECT_EQ(read(), (BatterySnapshot{.percent = 40,
+                                       .isCharging = false,
+                                       .isPluggedIn = false,
+                                       .hasBattery = true,
+                                       .timeToEmpty = 160,
+                                       .timeToFull = -1}));
+    EXPECT_EQ(BatteryHealthReader::read(sources.read()),
+              (BatteryHealthSnapshot{.cycleCount = 412, .healthPercent = 83}));
+    machine.remove(supply("BAT1"));
+    EXPECT_EQ(read().percent, 95);
+    EXPECT_EQ(sources.read().battery->cycleCount, 412);
+}
+
+TEST_F(TwoBatteriesTest, TheDirectionIsWhatComesOfBoth)
+{
+    struct Row
+    {
+        const char *online;
+        const char *status0;
+        const char *power0;
+        const char *status1;
+        const char *power1;
+        bool isCharging;
+        int toEmpty;
+        int toFull;
+    };
+    // 24 Wh are there, 36 Wh are missing.
+    for (const Row &row : {
+             Row{"0", "Discharging", "3000000", "Discharging", "9000000", false, 120, -1},
+             Row{"0", "Unknown", "0", "Discharging", "12000000", false, 120, -1},
+             Row{"1", "Not charging", "0", "Charging", "18000000", true, -1, 120},
+             Row{"1", "Charging", "6000000", "Charging", "12000000", true, -1, 120},
+             Row{"1", "Full", "0", "Charging", "18000000", true, -1, 120},
+             Row{"1", "Full", "0", "Full", "0", false, -1, -1},
+             Row{"1", "Unknown", "0", "Not charging", "0", false, -1, -1},
+             Row{"0", "Charging", "4000000", "Discharging", "16000000", false, 120, -1},
+             Row{"1", "Charging", "20000000", "Discharging", "2000000", true, -1, 120},
+             Row{"1", "Charging", "5000000", "Discharging", "5000000", false, -1, -1},
+             Row{"0", "Unknown", "-4000000", "Discharging", "-8000000", false, 120, -1},
+         }) {
+        set("AC/online", row.online);
+        set("BAT0/status", row.status0);
+        set("BAT0/power_now", row.power0);
+        set("BAT1/status", row.status1);
+        set("BAT1/power_now", row.power1);
+        const BatterySnapshot snapshot = read();
+        const auto rowText =
+            QByteArray(row.status0) + ' ' + row.power0 + ", " + row.status1 + ' ' + row.power1;
+        EXPECT_EQ(snapshot.isCharging, row.isCharging) << rowText.constData();
+        EXPECT_EQ(snapshot.timeToEmpty, row.toEmpty) << rowText.constData();
+        EXPECT_EQ(snapshot.timeToFull, row.toFull) << rowText.constData();
+        EXPECT_EQ(snapshot.percent, 40) << rowText.constData();
+    }
+}
+
+TEST_F(TwoBatteriesTest, WithoutSuppliesOneThatChargesIsPluggedIn)
+{
+    machine.remove(supply("AC"));
+    EXPECT_FALSE(read().isPluggedIn) << "one discharges";
+    set("BAT0/status", "Charging");
+    EXPECT_TRUE(read().isPluggedIn);
+    set("BAT0/status", "Full");
+    set("BAT1/status", "Unknown");
+    EXPECT_TRUE(read().isPluggedIn);
+}
+
+TEST_F(TwoBatteriesTest, OneThatCountsChargeIsConvertedByItsVoltage)
+{
+    for (const char *file :
+         {"BAT1/energy_full_design", "BAT1/energy_full", "BAT1/energy_now", "BAT1/power_now"})
+        unset(file);
+    set("BAT1/voltage_min_design", "12000000");
+    set("BAT1/charge_full_design", "4000000");
+    set("BAT1/charge_full", "3500000");
+    set("BAT1/charge_now", "575000");
+    set("BAT1/current_now", "750000");
+    EXPECT_EQ(read().percent, 40);
+    EXPECT_EQ(read().timeToEmpty, 160);
+    EXPECT_EQ(BatteryHealthReader::read(sources.read())->healthPercent, 83);
+}
+
+TEST_F(TwoBatteriesTest, WhatCannotBeAddedUpIsTheMeanOfWhatTheDriversSay)
+{
+    machine.makeUnreadable(supply("BAT1/energy_now"));
+    EXPECT_EQ(read().percent, 56) << "95 and 16";
+    EXPECT_EQ(read().timeToEmpty, -1);
+    unset("BAT1/capacity");
+    EXPECT_EQ(read().percent, 95);
+    unset("BAT0/capacity");
+    EXPECT_EQ(read().percent, -1);
+}
+
+TEST_F(TwoBatteriesTest, TheHotterOneTellsTheTemperature)
+{
+    EXPECT_FALSE(sources.read().battery->temperature);
+    set("BAT0/temp", "312");
+    EXPECT_EQ(sources.read().battery->temperature, 3120);
+    set("BAT1/temp", "405");
+    EXPECT_EQ(sources.read().battery->temperature, 4050);
 }
 
 TEST_F(PowerSourcesTest, ABatteryThatIsTakenOutIsNotThere)
 {
     set("BAT0/present", "0");
-    EXPECT_FALSE(sources.first());
-    EXPECT_FALSE(sources.smartBattery());
+    EXPECT_FALSE(sources.read().source);
+    EXPECT_FALSE(sources.read().battery);
     set("BAT0/present", "1");
-    EXPECT_TRUE(sources.first());
+    EXPECT_TRUE(sources.read().source);
     unset("BAT0/present");
-    EXPECT_TRUE(sources.first());
+    EXPECT_TRUE(sources.read().source);
 }
 
 TEST_F(PowerSourcesTest, ABatteryAtZero)
@@ -206,8 +300,8 @@ TEST_F(PowerSourcesTest, WithoutSuppliesTheStatusTells)
          }) {
         set("BAT0/status", row.status);
         set("BAT0/current_now", row.current);
-        EXPECT_EQ(sources.first()->powerSourceState, row.state) << row.status;
-        EXPECT_EQ(sources.first()->isCharging, row.status == QByteArray("Charging"));
+        EXPECT_EQ(sources.read().source->powerSourceState, row.state) << row.status;
+        EXPECT_EQ(sources.read().source->isCharging, row.status == QByteArray("Charging"));
     }
     set("AC/type", "Mains");
     set("BAT0/status", "Full");
@@ -267,8 +361,8 @@ TEST_F(PowerSourcesTest, MissingAndSenselessFilesAreUnknownValues)
     }
     const BatterySnapshot unknown{.percent = -1, .isPluggedIn = false, .hasBattery = true};
     EXPECT_EQ(read(), unknown);
-    EXPECT_EQ(sources.smartBattery()->cycleCount, std::nullopt);
-    EXPECT_FALSE(BatteryHealthReader::read(sources));
+    EXPECT_EQ(sources.read().battery->cycleCount, std::nullopt);
+    EXPECT_FALSE(BatteryHealthReader::read(sources.read()));
 }
 
 TEST_F(PowerSourcesTest, CapacitiesThatCannotBeAreAbsent)
@@ -276,41 +370,16 @@ TEST_F(PowerSourcesTest, CapacitiesThatCannotBeAreAbsent)
     for (const char *value : {"-4400000", "99999999999999999", "1e6", "99999999999999999999999", ""}) {
         set("BAT0/charge_full_design", value);
         set("BAT0/cycle_count", value);
-        EXPECT_FALSE(sources.smartBattery()->designCapacity) << value;
-        EXPECT_FALSE(sources.smartBattery()->cycleCount) << value;
+        EXPECT_FALSE(sources.read().battery->designCapacity) << value;
+        EXPECT_FALSE(sources.read().battery->cycleCount) << value;
     }
-}
-
-TEST(PowerSources, ASlowDriverLeavesTheLastValuesAndItsLateOnesFollow)
-{
-    const Machine machine(MachineKind::laptopIntel);
-    SysfsPowerSources sources(machine.sys(), 1s);
-    const auto deadline = [] { return std::chrono::steady_clock::now() + 10s; };
-    const auto percent = [&] { return BatteryReader::read(sources).percent; };
-    for (const auto end = deadline(); percent() != 72 && std::chrono::steady_clock::now() < end;)
-        std::this_thread::yield();
-    ASSERT_EQ(percent(), 72);
-
-    const QString pipe = machine.makeBlocking(supply("BAT0/capacity"));
-    EXPECT_EQ(percent(), 72);
-    machine.write(supply("AC/online"), "1\n");
-    EXPECT_TRUE(BatteryReader::read(sources).isPluggedIn) << "other drivers are read on";
-    EXPECT_EQ(sources.smartBattery()->cycleCount, 187);
-
-    const int descriptor = ::open(QFile::encodeName(pipe).constData(), O_WRONLY | O_CLOEXEC);
-    ASSERT_GE(descriptor, 0);
-    EXPECT_EQ(::write(descriptor, "64\n", 3), 3);
-    ::close(descriptor);
-    for (const auto end = deadline(); percent() != 64 && std::chrono::steady_clock::now() < end;)
-        std::this_thread::yield();
-    EXPECT_EQ(percent(), 64);
 }
 
 TEST(PowerSources, ThisMachineAnswers)
 {
-    SysfsPowerSources sources(QStringLiteral("/sys"), ample);
-    const BatterySnapshot snapshot = BatteryReader::read(sources);
-    EXPECT_EQ(snapshot.hasBattery, sources.smartBattery().has_value());
+    SysfsPowerSources sources(QStringLiteral("/sys"));
+    const BatterySnapshot snapshot = BatteryReader::read(sources.read());
+    EXPECT_EQ(snapshot.hasBattery, sources.read().battery.has_value());
     EXPECT_GE(snapshot.percent, -1);
     EXPECT_LE(snapshot.percent, 100);
 }

@@ -11,7 +11,7 @@ std::optional<BatteryHealthSnapshot> read(const SmartBattery &battery)
 {
     FakePowerSources sources;
     sources.battery = battery;
-    return BatteryHealthReader::read(sources);
+    return BatteryHealthReader::read(sources.read());
 }
 
 } // namespace
@@ -19,7 +19,7 @@ std::optional<BatteryHealthSnapshot> read(const SmartBattery &battery)
 TEST(BatteryHealthReader, AbsentWithoutABattery)
 {
     FakePowerSources sources;
-    EXPECT_FALSE(BatteryHealthReader::read(sources));
+    EXPECT_FALSE(BatteryHealthReader::read(sources.read()));
 }
 
 TEST(BatteryHealthReader, HealthIsThePresentPartOfTheDesign)

@@ -14,7 +14,7 @@ BatterySnapshot read(const PowerSourceDescription &description)
 {
     FakePowerSources sources;
     sources.source = description;
-    return BatteryReader::read(sources);
+    return BatteryReader::read(sources.read());
 }
 
 } // namespace
@@ -22,12 +22,12 @@ BatterySnapshot read(const PowerSourceDescription &description)
 TEST(BatteryReader, NoBatteryIsPluggedIn)
 {
     FakePowerSources sources;
-    EXPECT_EQ(BatteryReader::read(sources), (BatterySnapshot{.percent = -1,
-                                                             .isCharging = false,
-                                                             .isPluggedIn = true,
-                                                             .hasBattery = false,
-                                                             .timeToEmpty = -1,
-                                                             .timeToFull = -1}));
+    EXPECT_EQ(BatteryReader::read(sources.read()), (BatterySnapshot{.percent = -1,
+                                                                    .isCharging = false,
+                                                                    .isPluggedIn = true,
+                                                                    .hasBattery = false,
+                                                                    .timeToEmpty = -1,
+                                                                    .timeToFull = -1}));
 }
 
 TEST(BatteryReader, PassesOnWhatTheSourceSays)

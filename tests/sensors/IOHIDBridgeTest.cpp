@@ -1,5 +1,4 @@
 #include "sensors/IOHIDBridge.h"
-#include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
 
 #include <gtest/gtest.h>
@@ -14,37 +13,23 @@ protected:
     {
         thermal.services.push_back({QLatin1String(name), celsius});
     }
-    TemperatureReading read()
+    std::optional<double> cpuMax()
     {
-        const auto bridge = IOHIDBridge::open(thermal, power, log, scheduler);
-        return bridge ? bridge->readTemperatureReading() : TemperatureReading();
+        const auto bridge = IOHIDBridge::open(thermal);
+        return bridge ? bridge->readCpuMax() : std::nullopt;
     }
 
     FakeThermal thermal;
-    FakePowerSources power;
-    RecordingLog log;
-    ManualScheduler scheduler;
 };
 
 } // namespace
 
-TEST_F(IOHIDBridgeTest, ReportsWhyItCouldNotStart)
+TEST_F(IOHIDBridgeTest, IsNothingWhereTheServicesCannotBeListed)
 {
     thermal.canList = false;
-    EXPECT_FALSE(IOHIDBridge::open(thermal, power, log, scheduler));
-    ASSERT_EQ(log.entries.size(), 1U);
-    EXPECT_EQ(log.entries[0].level, LogLevel::error);
-    EXPECT_EQ(log.entries[0].category, QStringLiteral("IOHIDBridge"));
-}
-
-TEST_F(IOHIDBridgeTest, TellsHowManyServicesThereAre)
-{
-    add("cpu", 40);
-    add("acpitz", 41);
-    EXPECT_TRUE(IOHIDBridge::open(thermal, power, log, scheduler));
-    EXPECT_EQ(log.entries, (std::vector<RecordingLog::Entry>{
-                               {LogLevel::info, QStringLiteral("IOHIDBridge"),
-                                QStringLiteral("IOHID temperature bridge ready (2 services)")}}));
+    EXPECT_FALSE(IOHIDBridge::open(thermal));
+    thermal.canList = true;
+    EXPECT_EQ(IOHIDBridge::open(thermal)->count(), 0);
 }
 
 TEST_F(IOHIDBridgeTest, TheNameTellsTheProcessorsSensors)
@@ -69,25 +54,26 @@ TEST_F(IOHIDBridgeTest, ValuesOutOfBoundsAreDropped)
     add("cpu1", 120);
     add("cpu2", 0);
     add("cpu3", std::nullopt);
-    EXPECT_EQ(read().cpuMaxC, 40);
+    EXPECT_EQ(cpuMax(), 40);
     thermal.services[1].celsius = 119.5;
-    EXPECT_EQ(read().cpuMaxC, 119.5);
+    EXPECT_EQ(cpuMax(), 119.5);
     thermal.services[0].celsius = thermal.services[1].celsius = -2;
-    EXPECT_FALSE(read().cpuMaxC) << "0 and below alone";
+    EXPECT_FALSE(cpuMax()) << "0 and below alone";
 }
 
-TEST_F(IOHIDBridgeTest, RejectsOutliersAndReadsTheBattery)
+TEST_F(IOHIDBridgeTest, RejectsOutliers)
 {
     for (const double celsius : {40, 41, 42, 95})
         add("cpu", celsius);
-    power.setTemperature(3010);
-    EXPECT_EQ(read(), (TemperatureReading{42, 30.1, scheduler.now()}));
+    EXPECT_EQ(cpuMax(), 42);
 }
 
-TEST_F(IOHIDBridgeTest, WithoutAnythingTheReadingIsEmptyButThere)
+TEST_F(IOHIDBridgeTest, SensorsOfOtherPartsAreNotEvenAsked)
 {
     add("acpitz", 27.8);
-    EXPECT_EQ(read(), (TemperatureReading{.timestamp = scheduler.now()}));
+    add("cpu", 50);
+    EXPECT_EQ(cpuMax(), 50);
+    EXPECT_EQ(thermal.asked, QList<int>{1});
 }
 
 } // namespace brimlight::test

@@ -23,9 +23,9 @@ TEST_F(SMCBridgeTest, AKeyCountOfZeroLeavesALiveBridge)
     ASSERT_TRUE(bridge);
     EXPECT_EQ(log.entries,
               (std::vector<RecordingLog::Entry>{{LogLevel::notice, QStringLiteral("SMCBridge"), noKeys}}));
-    EXPECT_FALSE(bridge->readTemperatureReading());
+    EXPECT_FALSE(read());
     smc.recordCelsius("B0AT", 31.5F);
-    EXPECT_EQ(bridge->readTemperatureReading()->batteryC, 31.5);
+    EXPECT_EQ(read()->batteryC, 31.5);
 }
 
 TEST_F(SMCBridgeTest, AKeyCountThatCannotBeReadLeavesALiveBridge)
@@ -64,9 +64,9 @@ TEST_F(SMCBridgeTest, AKeyWhoseValueCannotBeReadIsNotListed)
 TEST_F(SMCBridgeTest, KeepsTheProcessorsKeys)
 {
     for (const char *key : {"TC0P", "TCXC", "TC0PX", "Tp01", "Te0M", "Tf1z"})
-        EXPECT_TRUE(SMCBridge::isCpuKey(QLatin1String(key))) << key;
+        EXPECT_TRUE(SMCSensors::isCpuKey(QLatin1String(key))) << key;
     for (const char *key : {"Tp012", "Te0", "TG0P", "Ts01", "B0AT", "tp01", "XTp0", ""})
-        EXPECT_FALSE(SMCBridge::isCpuKey(QLatin1String(key))) << key;
+        EXPECT_FALSE(SMCSensors::isCpuKey(QLatin1String(key))) << key;
 }
 
 TEST_F(SMCBridgeTest, DiscoversOnlyFloatsOfFourBytesWithTheRightNames)
@@ -122,7 +122,7 @@ TEST_F(SMCBridgeTest, ValuesOutOfBoundsAreDropped)
     smc.valueReply("Tp01").returnCode = 1;
     for (const float broken : {0.0F, -3.0F, nan}) {
         smc.recordCelsius("Tp02", broken);
-        EXPECT_FALSE(bridge->readTemperatureReading()) << broken << " alone";
+        EXPECT_FALSE(read()) << broken << " alone";
     }
 }
 
@@ -132,12 +132,12 @@ TEST_F(SMCBridgeTest, TheBatteryStaysBelowEightyOrTheOtherReaderIsTried)
     smc.recordCelsius("B0AT", 80);
     power.setTemperature(2950);
     open();
-    EXPECT_FALSE(bridge->readBatteryTemperature());
-    EXPECT_EQ(bridge->readTemperatureReading()->batteryC, 29.5);
+    EXPECT_FALSE(sensors->readBatteryTemperature());
+    EXPECT_EQ(read()->batteryC, 29.5);
     smc.recordCelsius("B0AT", 79.5F);
-    EXPECT_EQ(bridge->readTemperatureReading()->batteryC, 79.5);
+    EXPECT_EQ(read()->batteryC, 79.5);
     smc.recordCelsius("B0AT", -1);
-    EXPECT_EQ(bridge->readTemperatureReading()->batteryC, 29.5) << "the general bounds hold as well";
+    EXPECT_EQ(read()->batteryC, 29.5) << "the general bounds hold as well";
 }
 
 TEST_F(SMCBridgeTest, TheBatteryAloneIsAReading)
@@ -146,7 +146,7 @@ TEST_F(SMCBridgeTest, TheBatteryAloneIsAReading)
     smc.recordCelsius("B0AT", 30);
     open();
     smc.valueReply("Tp01").returnCode = 1;
-    const auto reading = bridge->readTemperatureReading();
+    const auto reading = read();
     ASSERT_TRUE(reading);
     EXPECT_EQ(*reading, (TemperatureReading{.batteryC = 30, .timestamp = scheduler.now()}));
 }
@@ -156,7 +156,7 @@ TEST_F(SMCBridgeTest, NothingAtAllIsNoReading)
     smc.add("Tp01", 40);
     open();
     smc.isBroken = true;
-    EXPECT_FALSE(bridge->readTemperatureReading());
+    EXPECT_FALSE(read());
     smc.isBroken = false;
     EXPECT_EQ(cpuMax(), 40);
 }

@@ -2,6 +2,7 @@
 
 #include "fakes/Fakes.h"
 #include "fakes/SensorFakes.h"
+#include "sensors/BatteryTemperatureReader.h"
 #include "sensors/SMCBridge.h"
 
 #include <gtest/gtest.h>
@@ -21,18 +22,31 @@ public:
 class SMCBridgeTest : public testing::Test
 {
 protected:
-    void open() { bridge = SMCBridge::open(smc, machine, power, defaults, log, scheduler); }
+    void open()
+    {
+        sensors = SMCSensors::open(smc, machine);
+        if (sensors)
+            bridge.emplace(sensors->inventory(), defaults, log);
+    }
     /// As the next start of the program does.
     void reopen()
     {
         bridge.reset();
+        sensors.reset();
         smc.requests.clear();
         log.entries.clear();
         open();
     }
+    std::optional<TemperatureReading> read()
+    {
+        const QSet<QString> skipped = bridge->isWatching() ? QSet<QString>() : bridge->denylist();
+        return bridge->reading(sensors->read(skipped),
+                               BatteryTemperatureReader::readFromSmartBattery(power.battery),
+                               scheduler.now());
+    }
     std::optional<double> cpuMax()
     {
-        const auto reading = bridge->readTemperatureReading();
+        const auto reading = read();
         return reading ? reading->cpuMaxC : std::nullopt;
     }
     QString storageKey() const
@@ -47,7 +61,8 @@ protected:
     MemoryDefaults defaults;
     RecordingLog log;
     SettableScheduler scheduler;
-    std::unique_ptr<SMCBridge> bridge;
+    std::unique_ptr<SMCSensors> sensors;
+    std::optional<SMCBridge> bridge;
 };
 
 } // namespace brimlight::test

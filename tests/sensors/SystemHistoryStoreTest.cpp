@@ -22,8 +22,15 @@ protected:
     }
 
     FakeHostStatistics statistics;
+    void setActive(bool active)
+    {
+        store.setActive(active);
+        scheduler.runPosted();
+    }
+
     ManualScheduler scheduler;
-    SystemHistoryStore store{statistics, scheduler};
+    SystemSampler sampler{statistics, scheduler};
+    SystemHistoryStore store{sampler, scheduler};
 };
 
 TEST_F(SystemHistoryStoreTest, StartsInactiveAndEmpty)
@@ -38,7 +45,7 @@ TEST_F(SystemHistoryStoreTest, StartsInactiveAndEmpty)
 
 TEST_F(SystemHistoryStoreTest, StartingSamplesAtOnceAndThenEveryTwoSeconds)
 {
-    store.setActive(true);
+    setActive(true);
     EXPECT_EQ(store.snapshot(), (SystemSnapshot{.cpu = 0, .memUsed = 0.5}));
     EXPECT_EQ(store.memHistory().size(), 1);
     EXPECT_EQ(scheduler.lastPeriod, 2s);
@@ -53,8 +60,8 @@ TEST_F(SystemHistoryStoreTest, StartingSamplesAtOnceAndThenEveryTwoSeconds)
 
 TEST_F(SystemHistoryStoreTest, ActivatingTwiceTakesOneSample)
 {
-    store.setActive(true);
-    store.setActive(true);
+    setActive(true);
+    setActive(true);
     EXPECT_EQ(statistics.cpuReads, 1);
     EXPECT_EQ(store.cpuHistory().size(), 1);
     EXPECT_EQ(scheduler.repeatingCount(), 1);
@@ -62,19 +69,50 @@ TEST_F(SystemHistoryStoreTest, ActivatingTwiceTakesOneSample)
 
 TEST_F(SystemHistoryStoreTest, APauseKeepsTheHistoryAndLeavesNoGap)
 {
-    store.setActive(true);
+    setActive(true);
     scheduler.advance(4s);
-    store.setActive(false);
+    setActive(false);
     EXPECT_EQ(scheduler.pendingCount(), 0);
     scheduler.advance(1h);
     EXPECT_EQ(store.memHistory().size(), 3);
-    store.setActive(true);
+    setActive(true);
     EXPECT_EQ(store.memHistory().size(), 4);
+}
+
+TEST_F(SystemHistoryStoreTest, TheLoadOfAPauseIsNoLoadOfNow)
+{
+    setActive(true);
+    statistics.ticks = CpuTicks{.user = 190, .idle = 910};
+    statistics.seconds = 2;
+    scheduler.advance(2s);
+    EXPECT_DOUBLE_EQ(store.snapshot().cpu, 0.9);
+    setActive(false);
+    statistics.ticks = CpuTicks{.user = 200, .idle = 100'000};
+    statistics.seconds = 3600;
+    setActive(true);
+    EXPECT_DOUBLE_EQ(store.snapshot().cpu, 0.9) << "not the hour's mean";
+    statistics.ticks = CpuTicks{.user = 250, .idle = 100'050};
+    statistics.seconds = 3602;
+    scheduler.advance(2s);
+    EXPECT_DOUBLE_EQ(store.snapshot().cpu, 0.5);
+}
+
+TEST_F(SystemHistoryStoreTest, ASourceThatHangsIsAskedOnceAndGoesOn)
+{
+    scheduler.holdAside();
+    setActive(true);
+    scheduler.advance(1min);
+    EXPECT_EQ(scheduler.heldCount(), 1);
+    EXPECT_TRUE(store.memHistory().isEmpty());
+    scheduler.letAsideGo();
+    EXPECT_EQ(store.memHistory().size(), 1);
+    scheduler.advance(2s);
+    EXPECT_EQ(store.memHistory().size(), 2);
 }
 
 TEST_F(SystemHistoryStoreTest, SixtyValuesAreTwoMinutes)
 {
-    store.setActive(true);
+    setActive(true);
     scheduler.advance(118s);
     EXPECT_EQ(store.cpuHistory().size(), 60);
     scheduler.advance(10min);
@@ -94,7 +132,7 @@ TEST_F(SystemHistoryStoreTest, ASampleNotifiesSnapshotThenLoadThenMemory)
     QObject::connect(&store, &SystemHistoryStore::snapshotChanged, [&] { note("snapshot"); });
     QObject::connect(&store, &SystemHistoryStore::cpuHistoryChanged, [&] { note("cpu"); });
     QObject::connect(&store, &SystemHistoryStore::memHistoryChanged, [&] { note("mem"); });
-    store.setActive(true);
+    setActive(true);
     EXPECT_EQ(order, (QStringList{QStringLiteral("snapshot 0 0"), QStringLiteral("cpu 1 0"),
                                   QStringLiteral("mem 1 1")}));
 }
@@ -103,7 +141,7 @@ TEST_F(SystemHistoryStoreTest, AnEqualSampleNotifiesToo)
 {
     int notified = 0;
     QObject::connect(&store, &SystemHistoryStore::snapshotChanged, [&] { ++notified; });
-    store.setActive(true);
+    setActive(true);
     scheduler.advance(4s);
     EXPECT_EQ(notified, 3);
 }
@@ -111,8 +149,9 @@ TEST_F(SystemHistoryStoreTest, AnEqualSampleNotifiesToo)
 TEST_F(SystemHistoryStoreTest, ADestroyedStoreTakesItsTimerAlong)
 {
     {
-        SystemHistoryStore shortLived(statistics, scheduler);
+        SystemHistoryStore shortLived(sampler, scheduler);
         shortLived.setActive(true);
+        scheduler.runPosted();
     }
     EXPECT_EQ(scheduler.pendingCount(), 0);
     scheduler.advance(10s);

@@ -29,15 +29,25 @@ BatterySnapshot charged(int percent)
 class SystemWidgets : public WidgetTest
 {
 protected:
-    SystemWidgets()
+    SystemWidgets() { show(); }
+    void tick() { pass(1s); }
+    void pass(std::chrono::milliseconds time)
+    {
+        statistics.seconds += static_cast<double>(time.count()) / 1000;
+        scheduler.advance(time);
+    }
+    /// As when the panel closes; its tick stands still then.
+    void hide()
+    {
+        context.setLive(false);
+        ticker.setActive(false);
+    }
+    /// As when it opens again. What is asked has been answered then.
+    void show()
     {
         context.setLive(true);
         ticker.setActive(true);
-    }
-    void tick()
-    {
-        statistics.seconds += 1;
-        scheduler.advance(1s);
+        scheduler.runPosted();
     }
 
     FakeHostStatistics statistics;
@@ -45,6 +55,12 @@ protected:
     FakeMachine machine;
     FakeSmc smc;
     FakeThermal thermal;
+    SystemSampler systemSampler{statistics, scheduler};
+    NetworkSampler networkSampler{statistics, scheduler};
+    DiskSampler diskSampler{statistics, QStringLiteral("/home/somebody"), scheduler};
+    PowerSampler powerSampler{power, scheduler};
+    ThermalStateSampler stateSampler{statistics, scheduler};
+    MachineSampler machineSampler{machine, statistics, scheduler};
 };
 
 } // namespace
@@ -88,7 +104,7 @@ TEST(BatteryDetail, TellsTheTimeThatIsLeftOrTheState)
 
 TEST_F(SystemWidgets, BatteryShowsADashForAnUnknownCharge)
 {
-    BatteryFace face(context, power);
+    BatteryFace face(context, powerSampler);
     EXPECT_EQ(face.number(), QStringLiteral("—"));
     EXPECT_EQ(face.fraction(), 0);
     EXPECT_EQ(face.status(), QStringLiteral("Plugged in"));
@@ -97,7 +113,7 @@ TEST_F(SystemWidgets, BatteryShowsADashForAnUnknownCharge)
 
 TEST_F(SystemWidgets, BatteryIsReadOnEachTickWhileItIsSeen)
 {
-    BatteryFace face(context, power);
+    BatteryFace face(context, powerSampler);
     power.source = PowerSourceDescription{
         .currentCapacity = 30, .maxCapacity = 100, .powerSourceState = QStringLiteral("Battery Power")};
     EXPECT_EQ(face.percent(), QStringLiteral("—"));
@@ -113,7 +129,7 @@ TEST_F(SystemWidgets, BatteryIsReadOnEachTickWhileItIsSeen)
 
 TEST_F(SystemWidgets, BatteryColorModeIsDynamicButForTheOneOtherValue)
 {
-    BatteryFace face(context, power);
+    BatteryFace face(context, powerSampler);
     WidgetInstance instance{.kind = QStringLiteral("battery"), .size = WidgetSize::small};
     for (const char *value : {"", "Theme", "dynamic"}) {
         instance.settings = WidgetSettings{{QStringLiteral("colorMode"), QString::fromLatin1(value)}};
@@ -136,15 +152,15 @@ TEST(BatteryHealth, TintChangesAtEightyAndSixty)
 
 TEST_F(SystemWidgets, BatteryHealthIsReadWhenItAppears)
 {
-    context.setLive(false);
-    BatteryHealthFace face(context, power);
-    context.setLive(true);
+    hide();
+    BatteryHealthFace face(context, powerSampler);
+    show();
     EXPECT_FALSE(face.hasBattery());
     power.battery = SmartBattery{.cycleCount = 312, .designCapacity = 5000, .rawMaxCapacity = 4000};
     tick();
     EXPECT_FALSE(face.hasBattery()) << "not on a tick";
-    context.setLive(false);
-    context.setLive(true);
+    hide();
+    show();
     EXPECT_TRUE(face.hasBattery());
     EXPECT_EQ(face.percent(), QStringLiteral("80%"));
     EXPECT_EQ(face.cycles(), QStringLiteral("312 cycles"));
@@ -164,10 +180,12 @@ TEST(Disk, AtNinetyTwoPercentItIsRed)
     EXPECT_EQ(diskTint(0.92, accent), signalColors::red);
 }
 
-TEST_F(SystemWidgets, DiskShowsTheRootVolume)
+TEST_F(SystemWidgets, DiskShowsItsVolumeTheMomentItAppears)
 {
     statistics.capacity = VolumeCapacity{.total = 1'000'000'000'000, .available = 250'000'000'000};
-    DiskFace face(context, statistics);
+    hide();
+    DiskFace face(context, diskSampler);
+    show();
     EXPECT_EQ(face.percent(), QStringLiteral("75%"));
     EXPECT_EQ(face.freeText(), QStringLiteral("250 GB free"));
     EXPECT_EQ(statistics.volumesAsked, QStringList{QStringLiteral("/")});
@@ -175,9 +193,10 @@ TEST_F(SystemWidgets, DiskShowsTheRootVolume)
 
 TEST_F(SystemWidgets, NetworkKeepsTwentyFourValues)
 {
-    NetworkFace face(context, statistics);
+    NetworkFace face(context, networkSampler);
     EXPECT_TRUE(face.bars().isEmpty());
     statistics.links = {{.name = QStringLiteral("eth0")}};
+    tick();
     tick();
     for (int i = 2; i <= 24; ++i) {
         statistics.links[0].received += 1000 * i;
@@ -195,9 +214,11 @@ TEST_F(SystemWidgets, NetworkKeepsTwentyFourValues)
 TEST_F(SystemWidgets, NetworkStartsAtZeroAndSilenceStaysFlat)
 {
     statistics.links = {{.name = QStringLiteral("eth0"), .received = 5000, .sent = 900}};
-    NetworkFace face(context, statistics);
+    NetworkFace face(context, networkSampler);
     tick();
     EXPECT_EQ(face.down(), QStringLiteral("0 B/s"));
+    EXPECT_TRUE(face.bars().isEmpty()) << "no rate yet";
+    tick();
     EXPECT_EQ(face.bars(), QList<double>{0});
     statistics.links[0].received += 2000;
     statistics.links[0].sent += 300;
@@ -205,6 +226,65 @@ TEST_F(SystemWidgets, NetworkStartsAtZeroAndSilenceStaysFlat)
     EXPECT_EQ(face.down(), QStringLiteral("2 KB/s"));
     EXPECT_EQ(face.up(), QStringLiteral("300 B/s"));
     EXPECT_EQ(face.bars(), (QList<double>{0, 1}));
+}
+
+TEST_F(SystemWidgets, NetworkShowsItsRateAMomentAfterItAppears)
+{
+    statistics.links = {{.name = QStringLiteral("eth0"), .received = 5000, .sent = 900}};
+    hide();
+    NetworkFace face(context, networkSampler);
+    show();
+    EXPECT_EQ(face.down(), QStringLiteral("0 B/s"));
+    statistics.links[0].received += 1000;
+    pass(250ms);
+    EXPECT_EQ(face.down(), QStringLiteral("4 KB/s")) << "long before the tick";
+    EXPECT_TRUE(face.bars().isEmpty()) << "a bar belongs to a tick";
+    pass(750ms);
+    EXPECT_EQ(face.bars().size(), 1);
+}
+
+TEST_F(SystemWidgets, NetworkDoesNotAverageAPause)
+{
+    statistics.links = {{.name = QStringLiteral("eth0")}};
+    hide();
+    NetworkFace face(context, networkSampler);
+    show();
+    tick();
+    hide();
+    statistics.links[0].received += 7'200'000'000;
+    pass(1h);
+    show();
+    EXPECT_EQ(face.down(), QStringLiteral("0 B/s")) << "not the hour's mean of 2.0 MB/s";
+    statistics.links[0].received += 500;
+    pass(250ms);
+    EXPECT_EQ(face.down(), QStringLiteral("2 KB/s"));
+    EXPECT_EQ(face.bars().size(), 1) << "none for the pause";
+}
+
+TEST_F(SystemWidgets, AShortPauseGivesARateAtOnce)
+{
+    statistics.links = {{.name = QStringLiteral("eth0")}};
+    hide();
+    NetworkFace face(context, networkSampler);
+    show();
+    hide();
+    statistics.links[0].received += 6000;
+    pass(2s);
+    show();
+    EXPECT_EQ(face.down(), QStringLiteral("3 KB/s"));
+}
+
+TEST_F(SystemWidgets, ANewTileBesideAnotherMeasuresFromWhatIsKnown)
+{
+    statistics.links = {{.name = QStringLiteral("eth0")}};
+    NetworkFace first(context, networkSampler);
+    tick();
+    statistics.links[0].received += 6000;
+    hide();
+    NetworkFace second(context, networkSampler);
+    pass(500ms);
+    show();
+    EXPECT_EQ(second.down(), QStringLiteral("12 KB/s"));
 }
 
 TEST(Load, TintChangesAtSeventyAndNinetyPercent)
@@ -225,7 +305,7 @@ TEST_F(SystemWidgets, SystemStartsWithoutALoadAndMeasuresItsOwnInterval)
     statistics.physical = 8'000'000'000;
     statistics.pages =
         MemoryPages{.active = 500'000, .wired = 250'000, .compressor = 250'000, .pageSize = 4000};
-    SystemFace face(context, statistics);
+    SystemFace face(context, systemSampler);
     tick();
     EXPECT_EQ(face.cpuText(), QStringLiteral("0%"));
     EXPECT_EQ(face.ramText(), QStringLiteral("50%"));
@@ -236,10 +316,82 @@ TEST_F(SystemWidgets, SystemStartsWithoutALoadAndMeasuresItsOwnInterval)
     EXPECT_EQ(face.cpuTint(), signalColors::orange);
 }
 
+TEST_F(SystemWidgets, SystemShowsItsMemoryAtOnceAndItsLoadAMomentLater)
+{
+    statistics.ticks = CpuTicks{.user = 100, .idle = 100};
+    statistics.physical = 8'000'000'000;
+    statistics.pages = MemoryPages{.active = 1'000'000, .pageSize = 4000};
+    hide();
+    SystemFace face(context, systemSampler);
+    show();
+    EXPECT_EQ(face.ramText(), QStringLiteral("50%"));
+    EXPECT_EQ(face.detail(), QStringLiteral("RAM 4.0 / 8 GB"));
+    statistics.ticks = CpuTicks{.user = 120, .idle = 180};
+    pass(250ms);
+    EXPECT_EQ(face.cpuText(), QStringLiteral("20%")) << "long before the tick";
+}
+
+TEST_F(SystemWidgets, SystemDoesNotAverageAPause)
+{
+    statistics.ticks = CpuTicks{.user = 100, .idle = 100};
+    hide();
+    SystemFace face(context, systemSampler);
+    show();
+    hide();
+    statistics.ticks = CpuTicks{.user = 300'100, .idle = 100'100};
+    pass(1h);
+    show();
+    EXPECT_EQ(face.cpuText(), QStringLiteral("0%")) << "not the hour's mean of 75 percent";
+    statistics.ticks = CpuTicks{.user = 300'130, .idle = 100'170};
+    pass(250ms);
+    EXPECT_EQ(face.cpuText(), QStringLiteral("30%"));
+}
+
+TEST_F(SystemWidgets, HoweverManyTilesThereAreATickIsOneQuestion)
+{
+    const BatteryFace batteries[] = {
+        {context, powerSampler}, {context, powerSampler}, {context, powerSampler}};
+    const SystemFace loads[] = {{context, systemSampler}, {context, systemSampler}};
+    const DiskFace disks[] = {{context, diskSampler}, {context, diskSampler}};
+    tick();
+    EXPECT_EQ(power.reads, 1);
+    EXPECT_EQ(statistics.cpuReads, 1);
+    EXPECT_EQ(statistics.volumesAsked.size(), 2) << "the root and, unknown, the home";
+}
+
+TEST_F(SystemWidgets, ASourceThatHangsKeepsWhatIsShownAndIsAskedOnce)
+{
+    power.source = PowerSourceDescription{.currentCapacity = 30, .maxCapacity = 100};
+    BatteryFace face(context, powerSampler);
+    tick();
+    scheduler.holdAside();
+    power.source->currentCapacity = 20;
+    for (int i = 0; i < 10; ++i)
+        tick();
+    EXPECT_EQ(face.percent(), QStringLiteral("30%"));
+    EXPECT_EQ(scheduler.heldCount(), 1);
+    scheduler.letAsideGo();
+    EXPECT_EQ(face.percent(), QStringLiteral("20%"));
+}
+
+TEST_F(SystemWidgets, AnAnswerThatComesAfterItsTileIsNobodys)
+{
+    {
+        DiskFace face(context, diskSampler);
+        scheduler.holdAside();
+        tick();
+    }
+    scheduler.letAsideGo();
+    EXPECT_TRUE(diskSampler.latest());
+}
+
 TEST_F(SystemWidgets, SystemInfoHasFourRows)
 {
     statistics.seconds = 7260;
-    SystemInfoFace face(context, statistics, machine);
+    hide();
+    SystemInfoFace face(context, machineSampler);
+    EXPECT_TRUE(face.values().isEmpty());
+    show();
     EXPECT_EQ(face.labels().size(), 4);
     EXPECT_EQ(face.values(), (QStringList{QStringLiteral("2h 1m"), QStringLiteral("Linux 6.1.0"),
                                           QStringLiteral("host"), QStringLiteral("Chip One")}));
@@ -249,11 +401,12 @@ TEST_F(SystemWidgets, UsageGraphFollowsTheSharedHistory)
 {
     statistics.physical = 4000;
     statistics.pages = MemoryPages{.active = 1, .pageSize = 1000};
-    SystemHistoryStore history(statistics, scheduler);
+    SystemHistoryStore history(systemSampler, scheduler);
     UsageGraphFace face(context, history);
     int changes = 0;
     QObject::connect(&face, &UsageGraphFace::historyChanged, &face, [&] { ++changes; });
     history.setActive(true);
+    scheduler.runPosted();
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(face.ram(), QList<double>{0.25});
     EXPECT_EQ(face.ramText(), QStringLiteral("25%"));
@@ -278,8 +431,8 @@ TEST_F(SystemWidgets, ABatteryValueAloneShowsTheFallback)
 {
     power.setTemperature(3010);
     statistics.thermal = ThermalState::serious;
-    TemperatureService service({smc, thermal, machine, power, defaults, recorded, scheduler});
-    TemperatureFace face(context, service, statistics);
+    TemperatureService service({smc, thermal, machine, powerSampler, defaults, recorded, scheduler});
+    TemperatureFace face(context, service, stateSampler);
     tick();
     ASSERT_TRUE(service.latest());
     EXPECT_FALSE(face.hasCpu());
@@ -290,8 +443,8 @@ TEST_F(SystemWidgets, ABatteryValueAloneShowsTheFallback)
 TEST_F(SystemWidgets, TemperatureIsReadOnEachTickInTheUsersUnit)
 {
     thermal.services = {{QStringLiteral("cpu"), 60.0}};
-    TemperatureService service({smc, thermal, machine, power, defaults, recorded, scheduler});
-    TemperatureFace face(context, service, statistics);
+    TemperatureService service({smc, thermal, machine, powerSampler, defaults, recorded, scheduler});
+    TemperatureFace face(context, service, stateSampler);
     tick();
     EXPECT_EQ(face.cpuText(), QStringLiteral("60°"));
     EXPECT_EQ(face.unit(), QStringLiteral("°C"));

@@ -23,7 +23,7 @@ std::optional<double> batteryOf(double raw)
 {
     FakePowerSources power;
     power.setTemperature(raw);
-    return readFromSmartBattery(power);
+    return readFromSmartBattery(power.battery);
 }
 
 } // namespace
@@ -120,9 +120,9 @@ TEST(BatteryTemperatureReader, RefusesWhatNoBatteryHas)
     EXPECT_FALSE(batteryOf(-1000));
     EXPECT_TRUE(batteryOf(-999));
     FakePowerSources power;
-    EXPECT_FALSE(readFromSmartBattery(power)) << "no battery";
+    EXPECT_FALSE(readFromSmartBattery(power.battery)) << "no battery";
     power.battery = SmartBattery{.cycleCount = 3};
-    EXPECT_FALSE(readFromSmartBattery(power)) << "one that does not tell";
+    EXPECT_FALSE(readFromSmartBattery(power.battery)) << "one that does not tell";
 }
 
 } // namespace brimlight::test

@@ -22,12 +22,13 @@ protected:
     void make()
     {
         service = std::make_unique<TemperatureService>(
-            TemperaturePorts{smc, thermal, machine, power, defaults, log, scheduler});
+            TemperaturePorts{smc, thermal, machine, powerSampler, defaults, log, scheduler});
         QObject::connect(service.get(), &TemperatureService::latestChanged, [this] { ++changes; });
     }
     std::optional<double> refresh()
     {
         service->refresh();
+        scheduler.runPosted();
         return service->latest() ? service->latest()->cpuMaxC : std::nullopt;
     }
     void setSmc(float celsius) { smc.recordCelsius("Tp01", celsius); }
@@ -39,6 +40,7 @@ protected:
     MemoryDefaults defaults;
     RecordingLog log;
     ManualScheduler scheduler;
+    PowerSampler powerSampler{power, scheduler};
     std::unique_ptr<TemperatureService> service;
     int changes = 0;
 };
@@ -60,6 +62,7 @@ TEST_F(TemperatureServiceTest, ReadsOnceByItselfAfterTheStart)
 TEST_F(TemperatureServiceTest, AViewThatAsksEarlierHasTakenTheFirstReading)
 {
     service->refresh();
+    EXPECT_EQ(changes, 0) << "not within the call";
     scheduler.advance(1h);
     EXPECT_EQ(changes, 1);
 }
@@ -111,7 +114,7 @@ TEST_F(TemperatureServiceTest, ABatteryThroughTheControllerKeepsTheThermalServic
     smc.recordValue("#KEY", "ui32", 4, 0, {0, 0, 0, 0});
     EXPECT_FALSE(refresh());
     EXPECT_EQ(service->latest()->batteryC, 30);
-    EXPECT_EQ(thermal.matched, 0);
+    EXPECT_TRUE(log.messages().filter(QStringLiteral("IOHID")).isEmpty());
 }
 
 TEST_F(TemperatureServiceTest, SteadiesTheProcessorsValueOnly)
@@ -183,6 +186,53 @@ TEST_F(TemperatureServiceTest, AFailureLeavesTheLastReading)
     refresh();
     EXPECT_EQ(service->latest(), before);
     EXPECT_EQ(changes, 1);
+}
+
+TEST_F(TemperatureServiceTest, TellsHowManyThermalServicesThereAre)
+{
+    smc.isThere = false;
+    refresh();
+    refresh();
+    EXPECT_EQ(log.entries, (std::vector<RecordingLog::Entry>{
+                               {LogLevel::info, QStringLiteral("IOHIDBridge"),
+                                QStringLiteral("IOHID temperature bridge ready (1 services)")}}));
+}
+
+TEST_F(TemperatureServiceTest, ThermalServicesReadWithTheBattery)
+{
+    smc.isThere = false;
+    power.setTemperature(3010);
+    refresh();
+    EXPECT_EQ(service->latest(),
+              (TemperatureReading{.cpuMaxC = 60, .batteryC = 30.1, .timestamp = scheduler.now()}));
+}
+
+TEST_F(TemperatureServiceTest, SensorsThatHangLeaveTheLastReadingAndAreAskedOnce)
+{
+    refresh();
+    scheduler.holdAside();
+    setSmc(50);
+    for (int tick = 0; tick < 5; ++tick) {
+        service->refresh();
+        scheduler.advance(1s);
+    }
+    EXPECT_EQ(service->latest()->cpuMaxC, 40);
+    EXPECT_EQ(scheduler.heldCount(), 2) << "the sensors and the battery";
+    scheduler.letAsideGo();
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(TemperatureServiceTest, ABatteryThatAnswersLateIsAddedToTheReading)
+{
+    refresh();
+    EXPECT_FALSE(service->latest()->batteryC);
+    power.setTemperature(3300);
+    powerSampler.ask();
+    scheduler.runPosted();
+    EXPECT_FALSE(service->latest()->batteryC) << "somebody else's question";
+    service->refresh();
+    scheduler.runPosted();
+    EXPECT_EQ(service->latest()->batteryC, 33);
 }
 
 TEST_F(TemperatureServiceTest, EveryReadingIsAnnouncedEqualOrNot)

@@ -17,7 +17,6 @@
 #include "platform/linux/kernel/LinuxMachineInfo.h"
 #include "platform/linux/kernel/SysfsPowerSources.h"
 #include "platform/linux/kernel/ThermalZones.h"
-#include "platform/linux/process/BoundedRead.h"
 #include "platform/linux/process/JournalLog.h"
 #include "platform/linux/process/PipeUnixSignals.h"
 #include "platform/linux/process/QtScheduler.h"
@@ -62,10 +61,27 @@ private:
     QWindow &m_window;
 };
 
+/// What is read on other threads.
+struct MachineBackends
+{
+    LinuxHostStatistics statistics;
+    SysfsPowerSources power;
+    LinuxMachineInfo info;
+    HwmonSmc smc;
+    ThermalZones thermal;
+};
+
 } // namespace
 
 struct LinuxPlatform::Backends
 {
+    ~Backends()
+    {
+        // A thread that hangs in a driver still uses them, and nobody waits for it.
+        if (!scheduler.isAsideIdle())
+            static_cast<void>(machine.release());
+    }
+
     std::unique_ptr<X11Connection> x11 = X11Connection::ofApplication();
     QtScheduler scheduler;
     XdgFolders folders;
@@ -76,12 +92,7 @@ struct LinuxPlatform::Backends
     X11Pointer pointer{x11.get()};
     PipeUnixSignals unixSignals;
     DesktopAppearance appearance{scheduler};
-    LinuxHostStatistics statistics;
-    SysfsPowerSources power;
-    LinuxMachineInfo machine;
-    BoundedRead sensors;
-    HwmonSmc smc{sensors};
-    ThermalZones thermal{sensors};
+    std::unique_ptr<MachineBackends> machine = std::make_unique<MachineBackends>();
     XdgAutostart loginItem{folders.autostartFolder(), QCoreApplication::applicationFilePath()};
     StatusNotifierItem statusItem{scheduler};
     PulseAudioServer audio{scheduler};
@@ -128,10 +139,11 @@ LinuxPlatform::~LinuxPlatform() = default;
 Platform LinuxPlatform::ports()
 {
     Backends &b = *m_backends;
-    return {b.scheduler,    b.defaults,    b.files,           b.folders,    b.log,   b.screens,
-            b.pointer,      b.unixSignals, b.appearance,      b.statistics, b.power, b.machine,
-            b.smc,          b.thermal,     b.loginItem,       b.statusItem, b.audio, b.brightness,
-            b.doNotDisturb, b.scripts,     b.powerAssertions, b.sounds};
+    return {b.scheduler,       b.defaults,      b.files,        b.folders,          b.log,
+            b.screens,         b.pointer,       b.unixSignals,  b.appearance,       b.machine->statistics,
+            b.machine->power,  b.machine->info, b.machine->smc, b.machine->thermal, b.loginItem,
+            b.statusItem,      b.audio,         b.brightness,   b.doNotDisturb,     b.scripts,
+            b.powerAssertions, b.sounds};
 }
 
 std::unique_ptr<OverlaySurface> LinuxPlatform::makeSurface(QWindow &window)

@@ -1,7 +1,7 @@
 #include "platform/linux/kernel/BacklightBrightness.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/SysfsValue.h"
-#include "platform/linux/process/BoundedRead.h"
 
 #include <QDir>
 

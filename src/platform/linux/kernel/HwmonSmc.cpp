@@ -1,5 +1,6 @@
 #include "platform/linux/kernel/HwmonSmc.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/SysfsValue.h"
 
 #include <QDir>
@@ -14,7 +15,7 @@ namespace brimlight {
 namespace {
 
 constexpr uint32_t countCode = SmcLayout::code("#KEY");
-constexpr uint32_t batteryCode = SmcLayout::code("B0AT");
+constexpr uint32_t packageCode = SmcLayout::code("TC0P");
 constexpr uint32_t floatType = SmcLayout::code("flt ");
 constexpr uint32_t integerType = SmcLayout::code("ui32");
 /// Signed, 8 bits before the point and 8 after it.
@@ -59,6 +60,19 @@ bool isMixedChip(const QString &name)
     return isAnyOf(name, drivers);
 }
 
+/// Whether a sensor of a processor's chip speaks for all of the processor, and not for one of its cores. The
+/// better a label, the lower its rank; absent for a part.
+std::optional<int> packageRank(const QString &chip, const QString &label)
+{
+    if (chip == QLatin1String("coretemp"))
+        return label.startsWith(QLatin1String("Package id")) ? std::optional(0) : std::nullopt;
+    // What the fan control goes by stands off the true value on some processors.
+    constexpr std::array byTrueness{"Tdie", "Tctl"};
+    const auto found = std::find_if(byTrueness.begin(), byTrueness.end(),
+                                    [&label](const char *name) { return label == QLatin1String(name); });
+    return found == byTrueness.end() ? std::nullopt : std::optional(int(found - byTrueness.begin()));
+}
+
 bool isCpuLabel(const QString &label)
 {
     constexpr std::array words{"cpu", "core", "cluster", "soc", "thermal"};
@@ -71,22 +85,10 @@ bool isAsleep(const QString &runtimeStatus)
     return status == QLatin1String("suspended") || status == QLatin1String("suspending");
 }
 
-/// The temperature of the first system battery that tells one; tenths of a degree. Runs on the reader's
-/// thread.
-std::optional<qint64> batteryTenths(const QString &suppliesFolder)
+std::optional<double> celsiusOf(const QString &input)
 {
-    const QDir supplies(suppliesFolder);
-    for (const QString &supply : supplies.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
-        const QString folder = supplies.filePath(supply) + u'/';
-        if (!QFileInfo::exists(folder + QStringLiteral("temp")) ||
-            sysfsText(smallFile(folder + QStringLiteral("type"))) != QLatin1String("Battery") ||
-            sysfsText(smallFile(folder + QStringLiteral("scope"))) == QLatin1String("Device") ||
-            isAsleep(folder + QStringLiteral("device/power/runtime_status")))
-            continue;
-        if (const auto tenths = sysfsNumber(smallFile(folder + QStringLiteral("temp"))))
-            return tenths;
-    }
-    return std::nullopt;
+    const auto milli = sysfsNumber(smallFile(input));
+    return milli ? std::optional(*milli / milliPerUnit) : std::nullopt;
 }
 
 /// A prefix of two characters and a number of two digits.
@@ -114,6 +116,18 @@ void storeFixedPoint(SmcRecord &record, double value)
 
 } // namespace
 
+std::optional<double> HwmonSmc::hottest(const std::vector<Input> &inputs)
+{
+    std::optional<double> hottest;
+    for (const Input &input : inputs) {
+        if (isAsleep(input.runtimeStatus))
+            continue;
+        if (const auto value = celsiusOf(input.file))
+            hottest = std::max(hottest.value_or(*value), *value);
+    }
+    return hottest;
+}
+
 struct HwmonSmc::Sensor
 {
     QString chip;
@@ -123,37 +137,52 @@ struct HwmonSmc::Sensor
     int number = 0;
     QString folder;
     bool isCpu = false;
+    /// Speaks for its whole processor; then no other sensor counts as the processor's.
+    bool isPackage = false;
 
+    Input input() const
+    {
+        return {.file = QStringLiteral("%1/temp%2_input").arg(folder).arg(number),
+                .runtimeStatus = folder + QStringLiteral("/device/power/runtime_status")};
+    }
     auto order() const { return std::tie(chip, device, label, number); }
 };
 
-HwmonSmc::HwmonSmc(BoundedRead &reader, const QString &root)
-    : m_reader(reader)
-    , m_root(QFileInfo(root).canonicalFilePath())
+HwmonSmc::HwmonSmc(const QString &root)
+    : m_root(QFileInfo(root).canonicalFilePath())
 {
 }
 
 std::optional<uint32_t> HwmonSmc::open()
 {
     std::vector<Sensor> found = sensors();
-    // The processor's first: its keys do not depend on what else there is.
-    std::stable_partition(found.begin(), found.end(), [](const Sensor &sensor) { return sensor.isCpu; });
     m_keys.clear();
-    if (found.empty() || !found.front().isCpu)
+    if (std::none_of(found.begin(), found.end(), [](const Sensor &sensor) { return sensor.isCpu; }))
         return std::nullopt;
-    if (batteryCelsius())
-        m_keys.push_back({.code = batteryCode, .dataType = floatType, .dataSize = floatSize});
+    Key package{.code = packageCode, .dataType = floatType, .dataSize = floatSize};
+    for (const Sensor &sensor : found) {
+        if (sensor.isPackage)
+            package.inputs.push_back(sensor.input());
+    }
+    const bool hasPackage = !package.inputs.empty();
+    if (hasPackage)
+        m_keys.push_back(std::move(package));
+    // The processor's first: its keys do not depend on what else there is.
+    const auto isCpu = [hasPackage](const Sensor &sensor) { return sensor.isCpu && !hasPackage; };
+    std::stable_partition(found.begin(), found.end(), isCpu);
     size_t cpuCount = 0;
     size_t otherCount = 0;
     for (const Sensor &sensor : found) {
-        const auto code = sensor.isCpu ? numberedCode("Tp", cpuCount++) : numberedCode("Ts", otherCount++);
+        if (sensor.isPackage)
+            continue;
+        const bool counts = isCpu(sensor);
+        const auto code = counts ? numberedCode("Tp", cpuCount++) : numberedCode("Ts", otherCount++);
         if (!code)
             continue;
         m_keys.push_back({.code = *code,
-                          .dataType = sensor.isCpu ? floatType : fixedPointType,
-                          .dataSize = sensor.isCpu ? floatSize : fixedPointSize,
-                          .input = QStringLiteral("%1/temp%2_input").arg(sensor.folder).arg(sensor.number),
-                          .runtimeStatus = sensor.folder + QStringLiteral("/device/power/runtime_status")});
+                          .dataType = counts ? floatType : fixedPointType,
+                          .dataSize = counts ? floatSize : fixedPointSize,
+                          .inputs = {sensor.input()}});
     }
     return ++m_connection;
 }
@@ -177,7 +206,7 @@ std::vector<HwmonSmc::Sensor> HwmonSmc::sensors() const
 
 void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) const
 {
-    const QString chip = sysfsText(m_reader.lastingFile(folder + QStringLiteral("/name")));
+    const QString chip = sysfsText(smallFile(folder + QStringLiteral("/name")));
     const QString device =
         QDir(m_root).relativeFilePath(QFileInfo(folder + QStringLiteral("/device")).canonicalFilePath());
     const QString suffix = QStringLiteral("_input");
@@ -189,29 +218,26 @@ void HwmonSmc::addChip(const QString &folder, std::vector<Sensor> &sensors) cons
         const int number = QStringView(input).sliced(4).chopped(suffix.size()).toInt(&isNumber);
         if (!isNumber)
             continue;
-        const QString label =
-            sysfsText(m_reader.lastingFile(QStringLiteral("%1/temp%2_label").arg(folder).arg(number)));
+        const QString label = sysfsText(smallFile(QStringLiteral("%1/temp%2_label").arg(folder).arg(number)));
         ofChip.push_back({chip, device, label, number, folder,
                           isCpuChip(chip) || (isMixedChip(chip) && isCpuLabel(label))});
     }
-    // What the fan control goes by stands off the true value on some processors.
-    const auto isTrueValue = [](const Sensor &sensor) { return sensor.label == QLatin1String("Tdie"); };
-    if (std::any_of(ofChip.begin(), ofChip.end(), isTrueValue)) {
-        for (Sensor &sensor : ofChip)
-            sensor.isCpu = sensor.isCpu && sensor.label != QLatin1String("Tctl");
+    std::optional<int> best;
+    for (const Sensor &sensor : ofChip) {
+        if (const auto rank = packageRank(sensor.chip, sensor.label); sensor.isCpu && rank)
+            best = std::min(best.value_or(*rank), *rank);
     }
+    for (Sensor &sensor : ofChip)
+        sensor.isPackage = best && packageRank(sensor.chip, sensor.label) == best;
     sensors.insert(sensors.end(), ofChip.begin(), ofChip.end());
 }
 
 const HwmonSmc::Key *HwmonSmc::find(uint32_t code) const
 {
-    // These two can be asked for whether or not they are listed; a battery may be put in later.
+    // Can be asked for without being listed.
     static const Key count{.code = countCode, .dataType = integerType, .dataSize = sizeof(uint32_t)};
-    static const Key battery{.code = batteryCode, .dataType = floatType, .dataSize = floatSize};
     if (code == countCode)
         return &count;
-    if (code == batteryCode)
-        return &battery;
     const auto key =
         std::find_if(m_keys.begin(), m_keys.end(), [code](const Key &key) { return key.code == code; });
     return key == m_keys.end() ? nullptr : &*key;
@@ -250,10 +276,6 @@ void HwmonSmc::answerIndex(const SmcRecord &request, SmcRecord &answer) const
 
 void HwmonSmc::answerInfo(const Key &key, SmcRecord &answer) const
 {
-    if (key.code == batteryCode && !batteryCelsius()) {
-        answer[SmcLayout::result] = resultNotFound;
-        return;
-    }
     SmcLayout::store(answer, key.dataSize, SmcLayout::dataSize);
     SmcLayout::store(answer, key.dataType, SmcLayout::dataType);
 }
@@ -264,32 +286,13 @@ void HwmonSmc::answerValue(const Key &key, SmcRecord &answer) const
         qToBigEndian(static_cast<uint32_t>(m_keys.size()), answer.data() + SmcLayout::bytes);
         return;
     }
-    const auto value = key.code == batteryCode ? batteryCelsius() : celsius(key);
+    const auto value = hottest(key.inputs);
     if (!value)
         answer[SmcLayout::result] = resultNotReadable;
     else if (key.dataType == floatType)
         storeFloat(answer, *value);
     else
         storeFixedPoint(answer, *value);
-}
-
-std::optional<double> HwmonSmc::celsius(const Key &key) const
-{
-    return m_reader.call<double>(key.input,
-                                 [input = key.input, status = key.runtimeStatus]() -> std::optional<double> {
-                                     if (isAsleep(status))
-                                         return std::nullopt;
-                                     const auto value = sysfsNumber(smallFile(input));
-                                     return value ? std::optional(*value / milliPerUnit) : std::nullopt;
-                                 });
-}
-
-std::optional<double> HwmonSmc::batteryCelsius() const
-{
-    constexpr double tenthsPerDegree = 10.0;
-    const QString supplies = m_root + QStringLiteral("/class/power_supply");
-    const auto tenths = m_reader.call<qint64>(supplies, [supplies] { return batteryTenths(supplies); });
-    return tenths ? std::optional(*tenths / tenthsPerDegree) : std::nullopt;
 }
 
 } // namespace brimlight

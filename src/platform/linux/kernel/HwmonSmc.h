@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/SmcTransport.h"
-#include "platform/linux/process/BoundedRead.h"
 
 #include <QString>
 
@@ -12,16 +11,16 @@ namespace brimlight {
 /// Answers the controller's records from the kernel's hwmon chips:
 ///
 ///     #KEY   how many keys there are
-///     B0AT   the battery, when it tells its temperature
-///     Tp..   the processor's sensors
+///     TC0P   the processor's package, of several the hottest: what its maker calls its temperature
+///     Tp..   the processor's sensors, where none speaks for all of it
 ///     Ts..   all others; in a type that nobody decodes, so that listing the keys does not bother a drive
 ///
 /// The two characters count up in an order that is the same at every boot. A sensor whose device sleeps is
-/// not read: it fails, as does one that is gone, holds no number or is late.
+/// not read: it fails, as does one that is gone or holds no number.
 class HwmonSmc : public SmcTransport
 {
 public:
-    explicit HwmonSmc(BoundedRead &reader, const QString &root = QStringLiteral("/sys"));
+    explicit HwmonSmc(const QString &root = QStringLiteral("/sys"));
 
     /// Lists the sensors. Absent without one of the processor, so that other sources are asked.
     std::optional<uint32_t> open() override;
@@ -30,27 +29,29 @@ public:
 
 private:
     struct Sensor;
+    struct Input
+    {
+        QString file;
+        QString runtimeStatus;
+    };
     struct Key
     {
         uint32_t code = 0;
         uint32_t dataType = 0;
         uint32_t dataSize = 0;
-        /// Empty for what is no sensor of a chip.
-        QString input;
-        QString runtimeStatus;
+        /// The hottest of them counts; empty for what is no sensor of a chip.
+        std::vector<Input> inputs;
     };
 
     std::vector<Sensor> sensors() const;
     void addChip(const QString &folder, std::vector<Sensor> &sensors) const;
     const Key *find(uint32_t code) const;
+    static std::optional<double> hottest(const std::vector<Input> &inputs);
 
     void answerIndex(const SmcRecord &request, SmcRecord &answer) const;
     void answerInfo(const Key &key, SmcRecord &answer) const;
     void answerValue(const Key &key, SmcRecord &answer) const;
-    std::optional<double> celsius(const Key &key) const;
-    std::optional<double> batteryCelsius() const;
 
-    BoundedRead &m_reader;
     /// Without links in it.
     QString m_root;
     uint32_t m_connection = 0;

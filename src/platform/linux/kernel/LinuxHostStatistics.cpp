@@ -1,18 +1,19 @@
 #include "platform/linux/kernel/LinuxHostStatistics.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/ThermalZone.h"
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 
 #include <algorithm>
 #include <array>
 #include <ctime>
 
-#include <ifaddrs.h>
-#include <linux/if_link.h>
-#include <sys/socket.h>
+#include <linux/magic.h>
 #include <sys/statvfs.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace brimlight {
@@ -20,13 +21,15 @@ namespace {
 
 std::optional<VolumeCapacity> capacityOf(const QString &path)
 {
-    struct statvfs volume = {};
-    if (::statvfs(QFile::encodeName(path).constData(), &volume) != 0)
+    struct statfs volume = {};
+    if (::statfs(QFile::encodeName(path).constData(), &volume) != 0)
         return std::nullopt;
     const uint64_t unit = volume.f_frsize;
     // Not f_bfree: the rest is root's.
     return VolumeCapacity{.total = static_cast<int64_t>(volume.f_blocks * unit),
-                          .available = static_cast<int64_t>(volume.f_bavail * unit)};
+                          .available = static_cast<int64_t>(volume.f_bavail * unit),
+                          .isReadOnly = (volume.f_flags & ST_RDONLY) != 0,
+                          .isInMemory = volume.f_type == TMPFS_MAGIC || volume.f_type == RAMFS_MAGIC};
 }
 
 } // namespace
@@ -86,11 +89,35 @@ MemoryPages pagesInUse(const MemoryInfo &info, uint64_t pageSize)
     return pages;
 }
 
-LinuxHostStatistics::LinuxHostStatistics(const QString &proc, const QString &sys,
-                                         std::chrono::milliseconds patience)
+std::optional<QList<InterfaceCounters>> parseInterfaces(const QByteArray &table)
+{
+    enum Column { received, sent = 8, fewest };
+    QList<QByteArray> lines = table.split('\n');
+    // Two lines of headings, cut up by bars.
+    if (lines.size() < 2 || !lines.at(1).contains("|bytes"))
+        return std::nullopt;
+    lines.remove(0, 2);
+    QList<InterfaceCounters> interfaces;
+    for (const QByteArray &line : std::as_const(lines)) {
+        const qsizetype colon = line.indexOf(':');
+        // A wide number leaves no blank behind the colon.
+        const QList<QByteArray> words = line.sliced(colon + 1).simplified().split(' ');
+        if (colon < 0 || words.size() < fewest)
+            continue;
+        bool isReceived = false;
+        bool isSent = false;
+        const InterfaceCounters counters{.name = QString::fromLocal8Bit(line.first(colon).trimmed()),
+                                         .received = words.at(received).toULongLong(&isReceived),
+                                         .sent = words.at(sent).toULongLong(&isSent)};
+        if (isReceived && isSent)
+            interfaces.append(counters);
+    }
+    return interfaces;
+}
+
+LinuxHostStatistics::LinuxHostStatistics(const QString &proc, const QString &sys)
     : m_proc(proc)
     , m_thermal(sys + QStringLiteral("/class/thermal"))
-    , m_reads(patience)
 {
 }
 
@@ -119,34 +146,27 @@ std::optional<MemoryInfo> LinuxHostStatistics::memoryInfo() const
     return meminfo ? parseMemoryInfo(*meminfo) : std::nullopt;
 }
 
-QList<InterfaceCounters> LinuxHostStatistics::interfaces()
+std::optional<QList<InterfaceCounters>> LinuxHostStatistics::interfaces()
 {
-    QList<InterfaceCounters> list;
-    ifaddrs *first = nullptr;
-    if (::getifaddrs(&first) != 0)
-        return list;
-    for (const ifaddrs *entry = first; entry; entry = entry->ifa_next) {
-        if (!entry->ifa_addr || entry->ifa_addr->sa_family != AF_PACKET || !entry->ifa_data)
-            continue;
-        const auto *counters = static_cast<const rtnl_link_stats *>(entry->ifa_data);
-        list.append({.name = QString::fromLocal8Bit(entry->ifa_name),
-                     .received = counters->rx_bytes,
-                     .sent = counters->tx_bytes});
-    }
-    ::freeifaddrs(first);
-    return list;
+    const auto table = smallFile(m_proc + QStringLiteral("/net/dev"));
+    return table ? parseInterfaces(*table) : std::nullopt;
 }
 
 std::optional<VolumeCapacity> LinuxHostStatistics::volumeCapacity(const QString &path)
 {
-    return m_volumes[path].ask(m_reads, path, [path] { return capacityOf(path); });
+    return capacityOf(path);
 }
 
 double LinuxHostStatistics::uptime()
 {
-    // Stands still while the machine is suspended.
+    // The file before the clock: in a container the two may differ, and the file is what other programs show.
+    const QByteArray file = smallFile(m_proc + QStringLiteral("/uptime")).value_or(QByteArray());
+    bool ok = false;
+    const double seconds = file.left(file.indexOf(' ')).toDouble(&ok);
+    if (ok)
+        return seconds;
     timespec now = {};
-    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    ::clock_gettime(CLOCK_BOOTTIME, &now);
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
@@ -156,14 +176,13 @@ ThermalState LinuxHostStatistics::thermalState()
                     worst(QStringLiteral("cooling_device*"), &coolingDeviceState));
 }
 
-ThermalState LinuxHostStatistics::worst(const QString &folders, ThermalState (*read)(const QString &folder))
+ThermalState LinuxHostStatistics::worst(const QString &folders,
+                                        ThermalState (*read)(const QString &folder)) const
 {
     ThermalState worst = ThermalState::nominal;
     const QStringList names = QDir(m_thermal).entryList({folders}, QDir::Dirs);
-    for (const QString &name : names) {
-        const QString folder = m_thermal + u'/' + name;
-        worst = std::max(worst, m_thermalStates[folder].ask(m_reads, folder, [=] { return read(folder); }));
-    }
+    for (const QString &name : names)
+        worst = std::max(worst, read(m_thermal + u'/' + name));
     return worst;
 }
 

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "platform/HostStatistics.h"
-#include "platform/linux/process/KeptAnswer.h"
 
 #include <QByteArray>
-#include <QHash>
 
 namespace brimlight {
 
@@ -28,33 +26,31 @@ std::optional<MemoryInfo> parseMemoryInfo(const QByteArray &meminfo);
 /// Their sum is what is not available.
 MemoryPages pagesInUse(const MemoryInfo &info, uint64_t pageSize);
 
+/// The kernel's table of links, /proc/net/dev. Absent when it is none.
+std::optional<QList<InterfaceCounters>> parseInterfaces(const QByteArray &table);
+
 /// The kernel's counters. `proc` and `sys` are the folders where it shows them. docs/counters.md says why it
 /// is these.
 class LinuxHostStatistics : public HostStatistics
 {
 public:
     explicit LinuxHostStatistics(const QString &proc = QStringLiteral("/proc"),
-                                 const QString &sys = QStringLiteral("/sys"),
-                                 std::chrono::milliseconds patience = BoundedRead::defaultPatience);
+                                 const QString &sys = QStringLiteral("/sys"));
 
     std::optional<CpuTicks> cpuTicks() override;
     std::optional<MemoryPages> memoryPages() override;
     uint64_t physicalMemory() override;
-    QList<InterfaceCounters> interfaces() override;
-    /// Of a file system that hangs, what it said last.
+    std::optional<QList<InterfaceCounters>> interfaces() override;
     std::optional<VolumeCapacity> volumeCapacity(const QString &path) override;
     double uptime() override;
     ThermalState thermalState() override;
 
 private:
     std::optional<MemoryInfo> memoryInfo() const;
-    ThermalState worst(const QString &folders, ThermalState (*read)(const QString &folder));
+    ThermalState worst(const QString &folders, ThermalState (*read)(const QString &folder)) const;
 
     QString m_proc;
     QString m_thermal;
-    BoundedRead m_reads;
-    QHash<QString, KeptAnswer<std::optional<VolumeCapacity>>> m_volumes;
-    QHash<QString, KeptAnswer<ThermalState>> m_thermalStates;
 };
 
 } // namespace brimlight

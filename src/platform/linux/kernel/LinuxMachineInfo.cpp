@@ -1,7 +1,7 @@
 #include "platform/linux/kernel/LinuxMachineInfo.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/SysfsValue.h"
-#include "platform/linux/process/BoundedRead.h"
 
 #include <QStringList>
 #include <QSysInfo>

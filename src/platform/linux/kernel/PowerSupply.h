@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/PowerSources.h"
-
 #include <QByteArray>
 #include <QHash>
-#include <QList>
+#include <QString>
 
 #include <optional>
 
@@ -33,11 +31,5 @@ private:
 
     QHash<QByteArray, QByteArray> m_attributes;
 };
-
-/// `supplies` are all that there are.
-PowerSourceDescription describePowerSource(const PowerSupply &battery, const QList<PowerSupply> &supplies);
-
-/// The capacities are mAh, or mWh / 10 from a driver that counts energy.
-SmartBattery describeSmartBattery(const PowerSupply &battery);
 
 } // namespace brimlight

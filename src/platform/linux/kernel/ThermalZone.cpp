@@ -1,6 +1,6 @@
 #include "platform/linux/kernel/ThermalZone.h"
 
-#include "platform/linux/process/BoundedRead.h"
+#include "platform/linux/kernel/SmallFile.h"
 
 #include <algorithm>
 #include <array>

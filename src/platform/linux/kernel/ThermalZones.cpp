@@ -1,5 +1,6 @@
 #include "platform/linux/kernel/ThermalZones.h"
 
+#include "platform/linux/kernel/SmallFile.h"
 #include "platform/linux/kernel/SysfsValue.h"
 
 #include <QDir>
@@ -23,9 +24,8 @@ QString nameOfType(const QString &type)
 
 } // namespace
 
-ThermalZones::ThermalZones(BoundedRead &reader, QString root)
-    : m_reader(reader)
-    , m_root(std::move(root))
+ThermalZones::ThermalZones(QString root)
+    : m_root(std::move(root))
 {
 }
 
@@ -44,15 +44,14 @@ std::optional<int> ThermalZones::match()
                      [&number](const QString &a, const QString &b) { return number(a) < number(b); });
     for (const QString &zone : std::as_const(zones)) {
         const QString path = folder.filePath(zone);
-        m_zones.push_back(
-            {path, nameOfType(sysfsText(m_reader.lastingFile(path + QStringLiteral("/type"))))});
+        m_zones.push_back({path, nameOfType(sysfsText(smallFile(path + QStringLiteral("/type"))))});
     }
     return static_cast<int>(m_zones.size());
 }
 
 std::optional<double> ThermalZones::celsius(int service)
 {
-    const auto milli = sysfsNumber(m_reader.file(m_zones.at(service).folder + QStringLiteral("/temp")));
+    const auto milli = sysfsNumber(smallFile(m_zones.at(service).folder + QStringLiteral("/temp")));
     return milli ? std::optional(*milli / milliPerDegree) : std::nullopt;
 }
 

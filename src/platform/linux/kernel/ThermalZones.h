@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/ThermalServices.h"
-#include "platform/linux/process/BoundedRead.h"
 
 #include <vector>
 
@@ -12,7 +11,7 @@ namespace brimlight {
 class ThermalZones : public ThermalServices
 {
 public:
-    explicit ThermalZones(BoundedRead &reader, QString root = QStringLiteral("/sys"));
+    explicit ThermalZones(QString root = QStringLiteral("/sys"));
 
     std::optional<int> match() override;
     std::optional<double> celsius(int service) override;
@@ -25,7 +24,6 @@ private:
         QString name;
     };
 
-    BoundedRead &m_reader;
     QString m_root;
     /// In the order of their numbers.
     std::vector<Zone> m_zones;

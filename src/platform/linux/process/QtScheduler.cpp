@@ -1,5 +1,6 @@
 #include "platform/linux/process/QtScheduler.h"
 
+#include <QPointer>
 #include <QTimer>
 
 namespace brimlight {
@@ -48,6 +49,14 @@ std::unique_ptr<Scheduled> QtScheduler::every(std::chrono::milliseconds period,
     // A coarse timer moves by up to a twentieth of its period to meet others.
     const Qt::TimerType type = tolerance >= period / 20 ? Qt::CoarseTimer : Qt::PreciseTimer;
     return std::make_unique<TimerScheduled>(period, type, false, std::move(body));
+}
+
+void QtScheduler::aside(QObject &context, std::function<void()> work, std::function<void()> done)
+{
+    m_threads.run(std::move(work), [guard = QPointer(&context), done = std::move(done)] {
+        if (guard)
+            done();
+    });
 }
 
 } // namespace brimlight
