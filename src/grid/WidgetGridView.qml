@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -42,11 +44,11 @@ Item {
     Loader {
         active: root.drag.hasTarget
         sourceComponent: DropHighlight {
-            x: root.drag.highlight.x // qmllint disable unqualified
-            y: root.drag.highlight.y // qmllint disable unqualified
-            width: root.drag.highlight.width // qmllint disable unqualified
-            height: root.drag.highlight.height // qmllint disable unqualified
-            fits: root.drag.fits // qmllint disable unqualified
+            x: root.drag.highlight.x
+            y: root.drag.highlight.y
+            width: root.drag.highlight.width
+            height: root.drag.highlight.height
+            fits: root.drag.fits
 
             Behavior on x {
                 NumberAnimation {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -232,12 +234,12 @@ Item {
         onLoaded: takeFocus()
         onVisibleChanged: takeFocus()
         sourceComponent: TileBack {
-            catalog: root.catalog // qmllint disable unqualified
-            theme: root.theme // qmllint disable unqualified
-            kind: root.kind // qmllint disable unqualified
-            instance: root.instance // qmllint disable unqualified
-            closesOnTap: root.isSmall // qmllint disable unqualified
-            onCloseRequested: root.viewState.clearFlip() // qmllint disable unqualified
+            catalog: root.catalog
+            theme: root.theme
+            kind: root.kind
+            instance: root.instance
+            closesOnTap: root.isSmall
+            onCloseRequested: root.viewState.clearFlip()
         }
     }
 }

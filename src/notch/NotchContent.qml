@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -129,8 +131,8 @@ Item {
         enabled: !root.viewModel.onboardingCompleted
         opacity: 1 - root.arrival
         sourceComponent: NotchOnboarding {
-            scene: root.scene // qmllint disable unqualified
-            controller: root.controller // qmllint disable unqualified
+            scene: root.scene
+            controller: root.controller
         }
     }
 
@@ -187,10 +189,10 @@ Item {
         enabled: wanted && root.shown
         onLoaded: giveFocus()
         sourceComponent: ThemeSettingsView {
-            theme: root.scene.theme // qmllint disable unqualified
-            settings: root.scene.appSettings // qmllint disable unqualified
-            loginItem: root.scene.loginItem // qmllint disable unqualified
-            updater: root.scene.updater // qmllint disable unqualified
+            theme: root.scene.theme
+            settings: root.scene.appSettings
+            loginItem: root.scene.loginItem
+            updater: root.scene.updater
         }
 
         Behavior on opacity {
@@ -290,7 +292,7 @@ Item {
                 color: Qt.rgba(0, 0, 0, 0.55)
 
                 Tap {
-                    onTapped: root.closeGallery() // qmllint disable unqualified
+                    onTapped: root.closeGallery()
                 }
             }
         }

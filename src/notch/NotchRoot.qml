@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -82,11 +84,11 @@ Item {
                 }
 
                 sourceComponent: NotchContent {
-                    scene: root.scene // qmllint disable unqualified
-                    controller: root.controller // qmllint disable unqualified
+                    scene: root.scene
+                    controller: root.controller
                     focus: true
-                    onStatusMenuRequested: (opener, position) => statusMenu.openAt(mapToItem(root, position), opener) // qmllint disable unqualified
-                    onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
+                    onStatusMenuRequested: (opener, position) => statusMenu.openAt(mapToItem(root, position), opener)
+                    onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position))
                 }
             }
         }
@@ -125,10 +127,10 @@ Item {
         }
 
         sourceComponent: NotchHUDView {
-            face: root.scene.hud // qmllint disable unqualified
-            colors: root.colors // qmllint disable unqualified
-            place: root.panel.hudPlace // qmllint disable unqualified
-            onSeenChanged: root.panel.showHud(seen) // qmllint disable unqualified
+            face: root.scene.hud
+            colors: root.colors
+            place: root.panel.hudPlace
+            onSeenChanged: root.panel.showHud(seen)
         }
     }
 
