@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -41,7 +42,7 @@ Item {
     }
 
     // Made anew wherever it appears, so that it does not come flying from where it was last.
-    Loader {
+    LazyItem {
         active: root.drag.hasTarget
         sourceComponent: DropHighlight {
             x: root.drag.highlight.x
@@ -49,17 +50,16 @@ Item {
             width: root.drag.highlight.width
             height: root.drag.highlight.height
             fits: root.drag.fits
+            colors: root.theme.shown
 
             Behavior on x {
-                NumberAnimation {
-                    duration: Motion.quickFade.duration
-                    easing: Motion.quickFade.easing
+                MotionAnimation {
+                    movement: Motion.quickFade
                 }
             }
             Behavior on y {
-                NumberAnimation {
-                    duration: Motion.quickFade.duration
-                    easing: Motion.quickFade.easing
+                MotionAnimation {
+                    movement: Motion.quickFade
                 }
             }
         }
@@ -76,8 +76,7 @@ Item {
             viewState: root.viewState
             live: root.open && page === root.page && !leaving
             shown: (root.open || root.fading) && page === root.page && !leaving
-            // The row goes with its tile, which must not go within its own handler.
-            onDeparted: Qt.callLater(root.tiles.forget, instanceId)
+            onDeparted: root.tiles.forgetLater(instanceId)
             z: flipped ? 2 : 0
             onFlippedChanged: {
                 if (flipped)

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Notch
@@ -43,9 +44,8 @@ Item {
             backdrop: root.panel.backdrop
 
             Behavior on opacity {
-                NumberAnimation {
-                    duration: Motion.panel.duration
-                    easing: Motion.panel.easing
+                MotionAnimation {
+                    movement: Motion.panel
                 }
             }
         }
@@ -63,7 +63,7 @@ Item {
             anchors.fill: parent
             clip: true
 
-            Loader {
+            LazyItem {
                 id: content
 
                 property bool wanted: false
@@ -112,7 +112,7 @@ Item {
     }
 
     // Made when first shown, then kept.
-    Loader {
+    LazyItem {
         id: hud
 
         active: false
@@ -132,6 +132,14 @@ Item {
             place: root.panel.hudPlace
             onSeenChanged: root.panel.showHud(seen)
         }
+    }
+
+    // Popovers of tiles; those of the settings have a layer of their own. They go with the panel.
+    PopoverLayer {
+        anchors.fill: parent
+        active: root.scene.viewModel.isExpanded
+        rest: content
+        onPlaced: (popover, frame) => root.panel.showPopover(popover, frame)
     }
 
     TileMenu {

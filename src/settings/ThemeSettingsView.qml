@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Update
 
@@ -53,15 +54,10 @@ Item {
             onClicked: root.activeTab = 1
         }
     }
-    Loader {
+    LazyItem {
         anchors.fill: parent
         anchors.topMargin: tabs.height + 12
         sourceComponent: root.activeTab === 0 ? generalTab : appearanceTab
-    }
-    Item {
-        id: menuLayer
-
-        anchors.fill: parent
     }
     Component {
         id: generalTab
@@ -71,7 +67,6 @@ Item {
             settings: root.settings
             loginItem: root.loginItem
             updater: root.updater
-            overlay: menuLayer
         }
     }
     Component {
@@ -80,5 +75,9 @@ Item {
         AppearanceSettings {
             theme: root.theme
         }
+    }
+    PopoverLayer {
+        anchors.fill: parent
+        rest: root
     }
 }

@@ -19,8 +19,8 @@ Rectangle {
     width: label.width + 12
     height: label.height + 6
     radius: 5
-    color: Qt.rgba(0.12, 0.12, 0.14, 0.98)
-    border.color: Qt.rgba(1, 1, 1, 0.14)
+    color: Qt.tint(Qt.alpha(colors.surface, 1), Qt.alpha(colors.textPrimary, 0.08))
+    border.color: Qt.alpha(colors.textPrimary, 0.14)
 
     Text {
         id: label
@@ -31,15 +31,14 @@ Rectangle {
         horizontalAlignment: Text.AlignHCenter
         text: root.text
         color: root.colors.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 10
+        font: Fonts.note
     }
     Timer {
         id: timer
 
         property bool due: false
 
-        interval: 700
+        interval: Motion.tipDelay
         running: root.shown
         onTriggered: due = true
         onRunningChanged: {

@@ -15,6 +15,8 @@ Item {
     Item {
         id: dots
 
+        readonly property real reach: Math.min(width, height) / 14
+
         anchors.fill: parent
 
         Repeater {
@@ -24,18 +26,18 @@ Item {
                 required property int index
                 readonly property real angle: index * Math.PI / 4
 
-                x: 7 + 5.5 * Math.sin(angle) - 1.25
-                y: 7 - 5.5 * Math.cos(angle) - 1.25
-                width: 2.5
-                height: 2.5
-                radius: 1.25
+                x: dots.width / 2 + (5.5 * Math.sin(angle) - 1.25) * dots.reach
+                y: dots.height / 2 - (5.5 * Math.cos(angle) + 1.25) * dots.reach
+                width: 2.5 * dots.reach
+                height: width
+                radius: width / 2
                 color: root.color
                 opacity: (index + 1) / 8
             }
         }
     }
     Timer {
-        interval: 100
+        interval: Motion.spinnerStep
         repeat: true
         running: root.visible && !Motion.reduced
         onTriggered: dots.rotation = (dots.rotation + 45) % 360

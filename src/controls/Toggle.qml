@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Brimlight.Theme
-import Brimlight.Grid
 
 // A switch at the end of its label.
 AbstractButton {
@@ -27,8 +26,7 @@ AbstractButton {
         text: root.label
         color: root.colors.textPrimary
         wrapMode: Text.WordWrap
-        font.family: Fonts.rounded
-        font.pixelSize: 11
+        font: Fonts.label
     }
     Rectangle {
         id: track
@@ -38,11 +36,11 @@ AbstractButton {
         width: 32
         height: 18
         radius: 9
-        color: root.on ? root.colors.accent : Qt.rgba(1, 1, 1, root.hovered ? 0.24 : 0.18)
+        color: root.on ? root.colors.accent : Qt.alpha(root.colors.textPrimary, root.hovered ? 0.24 : 0.18)
 
         Behavior on color {
-            ColorAnimation {
-                duration: Motion.quickFade.duration
+            MotionAnimation {
+                movement: Motion.quickFade
             }
         }
 
@@ -60,9 +58,8 @@ AbstractButton {
             border.color: Qt.rgba(0, 0, 0, 0.18)
 
             Behavior on x {
-                NumberAnimation {
-                    duration: Motion.selection.duration
-                    easing: Motion.selection.easing
+                MotionAnimation {
+                    movement: Motion.selection
                 }
             }
         }

@@ -7,7 +7,7 @@ import Brimlight.Theme
 Item {
     id: root
 
-    required property ThemeStore theme
+    required property theme colors
     default property alias entries: column.data
 
     // With keys the first entry is lit at once.
@@ -23,11 +23,9 @@ Item {
     Keys.onTabPressed: takeFocus()
     Keys.onUpPressed: takeFocus()
 
-    Rectangle {
+    MenuSurface {
         anchors.fill: parent
-        radius: 10
-        color: Qt.rgba(root.theme.shown.surface.r + 0.07, root.theme.shown.surface.g + 0.07, root.theme.shown.surface.b + 0.07, 1)
-        border.color: Qt.rgba(1, 1, 1, 0.14)
+        colors: root.colors
     }
     // Clicks between the entries must not reach what lies below.
     Tap {}

@@ -8,8 +8,10 @@ Row {
     id: root
 
     required property theme colors
-    required property string symbol
+    property string symbol
     required property string text
+    // Beyond it the name is cut short.
+    property real maximumWidth: Infinity
     property color tint: colors.accent
 
     spacing: 5
@@ -18,16 +20,17 @@ Row {
 
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
+        visible: name !== ""
         name: root.symbol
         size: 11
         color: root.tint
     }
     Text {
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, root.maximumWidth - x)
+        elide: Text.ElideRight
         text: root.text
         color: root.colors.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 12
-        font.weight: Font.DemiBold
+        font: Fonts.strong(Fonts.body)
     }
 }

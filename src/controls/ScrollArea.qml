@@ -8,6 +8,10 @@ Item {
     id: root
 
     required property theme colors
+    // Kept free beside the column, and below its end.
+    property real margin: 16
+    property real foot: 24
+    property alias spacing: column.spacing
     default property alias content: column.data
 
     Flickable {
@@ -21,17 +25,16 @@ Item {
 
         anchors.fill: parent
         clip: true
-        contentHeight: column.height + 24
+        contentHeight: column.height + root.foot
         flickableDirection: Flickable.VerticalFlick
         boundsBehavior: Flickable.StopAtBounds
 
-        NumberAnimation {
+        MotionAnimation {
             id: glide
 
             target: flickable
             property: "contentY"
-            duration: Motion.change.duration
-            easing: Motion.change.easing
+            movement: Motion.change
         }
         WheelHandler {
             onWheel: event => {
@@ -42,29 +45,17 @@ Item {
         Column {
             id: column
 
-            x: 16
-            width: flickable.width - 32
+            x: root.margin
+            width: flickable.width - 2 * root.margin
             spacing: 12
         }
     }
-    Rectangle {
+    ScrollMark {
+        x: parent.width - (root.margin > 8 ? 10 : 3)
+        target: flickable
+        colors: root.colors
+        moving: flickable.moving || glide.running
         // Clear of the round corner of the panel.
-        readonly property real reach: flickable.height - 32
-
-        x: parent.width - 10
-        y: flickable.visibleArea.yPosition * reach
-        width: 3
-        height: flickable.visibleArea.heightRatio * reach
-        radius: 1.5
-        visible: flickable.visibleArea.heightRatio < 1
-        color: root.colors.textPrimary
-        opacity: flickable.moving || glide.running ? 0.45 : 0.16
-
-        Behavior on opacity {
-            NumberAnimation {
-                duration: Motion.fade.duration
-                easing: Motion.fade.easing
-            }
-        }
+        inset: root.foot + 8
     }
 }

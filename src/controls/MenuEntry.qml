@@ -8,13 +8,17 @@ AbstractButton {
     id: root
 
     required property string text
-    required property ThemeStore theme
+    required property theme colors
     property bool checkable: false
     property bool checked: false
     property bool destructive: false
     property bool opensSubmenu: false
     property bool submenuOpen: false
+    // In front of the text, where there is no check mark.
+    property string symbol
+    property color symbolColor: textColor
     readonly property bool lit: submenuOpen || (InputModality.isKeyboard ? activeFocus : hovered)
+    readonly property color textColor: lit ? colors.textOnAccent : destructive ? colors.critical : colors.textPrimary
 
     // Up and down stay within the menu and go round.
     function focusNext(forward: bool): void {
@@ -43,26 +47,27 @@ AbstractButton {
     Rectangle {
         anchors.fill: parent
         radius: 6
-        color: root.theme.shown.accent
+        color: root.colors.accent
         visible: root.lit
     }
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
         x: 7
-        visible: root.checked
-        name: "checkmark"
+        visible: name !== ""
+        name: root.checked ? "checkmark" : root.symbol
         size: 10
-        color: caption.color
+        color: root.checked || root.lit ? root.textColor : root.symbolColor
     }
     Text {
         id: caption
 
         anchors.verticalCenter: parent.verticalCenter
         x: 23
+        width: Math.min(implicitWidth, root.width - x - (root.opensSubmenu ? 23 : 7))
+        elide: Text.ElideRight
         text: root.text
-        color: root.lit ? root.theme.shown.textOnAccent : root.destructive ? "#FF453A" : root.theme.shown.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 12
+        color: root.textColor
+        font: Fonts.body
     }
     Symbol {
         anchors.verticalCenter: parent.verticalCenter
@@ -71,6 +76,6 @@ AbstractButton {
         visible: root.opensSubmenu
         name: "chevron.right"
         size: 9
-        color: caption.color
+        color: root.textColor
     }
 }

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Brimlight.Theme
 
-// A ring with something short inside: a number, and above it perhaps a symbol.
+// A ring with something short inside: a number, above it perhaps a symbol, below it perhaps what is measured.
 Item {
     id: root
 
@@ -16,7 +16,7 @@ Item {
     property string caption
     property alias duration: ring.duration
     property alias easing: ring.easing
-    property real textSize: Math.max(10, width * 0.25)
+    property real textSize: Math.max(Fonts.body.pixelSize, width * (caption === "" ? 0.25 : 0.225))
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: (caption !== "" ? caption + " " : "") + text
@@ -45,20 +45,17 @@ Item {
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
+            visible: text !== ""
             text: root.text
             color: root.colors.textPrimary
-            font.family: Fonts.rounded
-            font.pixelSize: root.textSize
-            font.weight: Font.DemiBold
+            font: Fonts.sized(Fonts.strong(Fonts.value), root.textSize)
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: root.caption !== ""
             text: root.caption
             color: root.colors.textSecondary
-            font.family: Fonts.rounded
-            font.pixelSize: Math.max(8, root.textSize * 0.5)
-            font.weight: Font.Medium
+            font: Fonts.sized(Fonts.medium(Fonts.tiny), Math.max(Fonts.tiny.pixelSize, root.textSize * 0.5))
         }
     }
 }

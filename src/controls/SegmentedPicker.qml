@@ -12,6 +12,8 @@ Item {
     required property list<string> labels
     required property list<string> values
     required property string value
+    property bool available: true
+    property bool showsLabel: true
     readonly property int current: values.indexOf(value)
 
     signal chosen(string value)
@@ -22,26 +24,30 @@ Item {
         chosen(values[wrapped]);
     }
 
-    implicitHeight: caption.height + 3 + 22
+    implicitHeight: (showsLabel ? caption.height + 3 : 0) + 22
+    enabled: available
+    opacity: available ? 1 : 0.4
     Accessible.role: Accessible.Grouping
     Accessible.name: label
 
     Text {
         id: caption
 
+        visible: root.showsLabel
         text: root.label
         color: root.colors.textSecondary
-        font.family: Fonts.rounded
-        font.pixelSize: 10
+        font: Fonts.note
     }
     Rectangle {
         anchors.bottom: parent.bottom
         width: parent.width
         height: 22
         radius: 7
-        color: Qt.rgba(1, 1, 1, 0.07)
+        color: Qt.alpha(root.colors.textPrimary, 0.07)
 
         Row {
+            id: row
+
             anchors.fill: parent
             anchors.margins: 2
 
@@ -56,8 +62,8 @@ Item {
                     required property int index
                     readonly property bool selected: index === root.current
 
-                    width: parent.width / root.labels.length
-                    height: parent.height
+                    width: row.width / root.labels.length
+                    height: row.height
                     activeFocusOnTab: activeFocus || index === Math.max(0, root.current)
                     label: root.labels[index]
                     role: Accessible.RadioButton
@@ -73,7 +79,7 @@ Item {
                     Rectangle {
                         anchors.fill: parent
                         radius: 5
-                        color: segment.selected ? root.colors.accent : segment.hovered ? Qt.rgba(1, 1, 1, 0.08) : "transparent"
+                        color: segment.selected ? root.colors.accent : segment.hovered ? Qt.alpha(root.colors.textPrimary, 0.08) : "transparent"
                     }
                     FocusRing {
                         corner: 5
@@ -85,9 +91,7 @@ Item {
                         elide: Text.ElideRight
                         text: segment.label
                         color: segment.selected ? root.colors.textOnAccent : root.colors.textPrimary
-                        font.family: Fonts.rounded
-                        font.pixelSize: 10
-                        font.weight: Font.Medium
+                        font: Fonts.medium(Fonts.note)
                     }
                 }
             }

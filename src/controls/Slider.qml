@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Brimlight.Theme
-import Brimlight.Grid
 
 // A value from 0 to 1 under a knob. Each movement is told at once.
 Item {
@@ -12,6 +11,7 @@ Item {
     // What is stored; the knob stops at the ends.
     required property real position
     required property theme colors
+    property bool available: true
     // Of the track behind the knob; without one it is filled up to the knob.
     property Gradient gradient: null
     readonly property real shown: Math.max(0, Math.min(1, position))
@@ -33,6 +33,8 @@ Item {
     }
 
     implicitHeight: 22
+    enabled: available
+    opacity: available ? 1 : 0.4
     activeFocusOnTab: true
     Accessible.role: Accessible.Slider
     Accessible.name: label
@@ -66,10 +68,10 @@ Item {
         width: parent.width
         height: root.gradient ? 10 : 4
         radius: height / 2
-        color: Qt.rgba(1, 1, 1, 0.16)
+        color: Qt.alpha(root.colors.textPrimary, 0.16)
         gradient: root.gradient
         border.width: root.gradient ? 1 : 0
-        border.color: Qt.rgba(1, 1, 1, 0.16)
+        border.color: Qt.alpha(root.colors.textPrimary, 0.16)
 
         Rectangle {
             width: knob.x + knob.width / 2
