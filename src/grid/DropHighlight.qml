@@ -1,11 +1,15 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Grid
+import Brimlight.Theme
 
 // Where the dragged tile would land: green when it fits, red when not.
 HighlightFrame {
     id: root
 
     required property bool fits
+    required property theme colors
 
-    color: fits ? "#30D158" : "#FF453A"
+    color: fits ? colors.good : colors.critical
 }

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -40,15 +43,13 @@ AbstractButton {
     Accessible.description: entry.sizes
 
     Behavior on light {
-        NumberAnimation {
-            duration: Motion.cardHover.duration
-            easing: Motion.cardHover.easing
+        MotionAnimation {
+            movement: Motion.cardHover
         }
     }
     Behavior on pressScale {
-        NumberAnimation {
-            duration: Motion.press.duration
-            easing: Motion.press.easing
+        MotionAnimation {
+            movement: Motion.press
         }
     }
 
@@ -156,9 +157,7 @@ AbstractButton {
                     text: root.entry.chip
                     color: root.theme.shown.textPrimary
                     opacity: 0.82
-                    font.family: Fonts.rounded
-                    font.pixelSize: 9
-                    font.bold: true
+                    font: Fonts.bold(Fonts.footnote)
                 }
             }
         }
@@ -177,9 +176,7 @@ AbstractButton {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.entry.name
                 color: root.theme.shown.textPrimary
-                font.family: Fonts.rounded
-                font.pixelSize: 11
-                font.weight: Font.DemiBold
+                font: Fonts.strong(Fonts.label)
             }
         }
         Text {
@@ -187,8 +184,7 @@ AbstractButton {
             verticalAlignment: Text.AlignVCenter
             text: root.entry.sizes
             color: root.theme.shown.textSecondary
-            font.family: Fonts.rounded
-            font.pixelSize: 8
+            font: Fonts.tiny
         }
     }
 

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -65,8 +68,7 @@ Item {
         visible: !settings.hasView
         text: "Settings coming soon"
         color: root.theme.shown.textSecondary
-        font.pixelSize: 11
-        font.weight: Font.Medium
+        font: Fonts.medium(Fonts.label)
     }
 
     IconButton {

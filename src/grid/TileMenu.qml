@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -79,13 +82,13 @@ FocusScope {
 
         width: implicitWidth
         height: implicitHeight
-        theme: root.theme
+        colors: root.theme.shown
         Accessible.name: root.catalog.displayName(root.kind)
 
         MenuEntry {
             width: parent.width
             visible: root.catalog.hasSettings(root.kind)
-            theme: root.theme
+            colors: root.theme.shown
             text: "Settings (Flip)"
             onClicked: {
                 const id = root.instanceId;
@@ -104,7 +107,7 @@ FocusScope {
 
             width: parent.width
             visible: sizeRepeater.count > 0
-            theme: root.theme
+            colors: root.theme.shown
             text: "Size"
             opensSubmenu: true
             submenuOpen: root.sizesOpen
@@ -112,7 +115,7 @@ FocusScope {
         }
         MenuEntry {
             width: parent.width
-            theme: root.theme
+            colors: root.theme.shown
             text: "Remove"
             destructive: true
             onClicked: {
@@ -131,7 +134,7 @@ FocusScope {
         x: menu.x + menu.width + 4 + width > root.width ? menu.x - width - 4 : menu.x + menu.width + 4
         y: Math.min(menu.y + sizeEntry.y, root.height - height - 4)
         visible: root.sizesOpen
-        theme: root.theme
+        colors: root.theme.shown
         Accessible.name: "Size"
 
         Repeater {
@@ -143,7 +146,7 @@ FocusScope {
                 required property var modelData
 
                 width: parent.width
-                theme: root.theme
+                colors: root.theme.shown
                 text: modelData.label
                 checkable: true
                 checked: modelData.size === root.currentSize

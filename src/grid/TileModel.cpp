@@ -89,6 +89,11 @@ void TileModel::forget(const QString &instanceId)
     }
 }
 
+void TileModel::forgetLater(const QString &instanceId)
+{
+    QMetaObject::invokeMethod(this, [this, instanceId] { forget(instanceId); }, Qt::QueuedConnection);
+}
+
 void TileModel::follow()
 {
     QList<Tile> now = placed(m_grid.layout());

@@ -38,7 +38,9 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     /// The leaving tile need not be drawn any more; no other tile is touched.
-    Q_INVOKABLE void forget(const QString &instanceId);
+    void forget(const QString &instanceId);
+    /// The same in the next turn of the event loop: a tile must not go within its own handler.
+    Q_INVOKABLE void forgetLater(const QString &instanceId);
 
 private:
     struct Tile

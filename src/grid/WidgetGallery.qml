@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -38,18 +41,14 @@ Item {
     }
     Tap {}
 
-    Text {
+    Heading {
         id: heading
 
         x: 32
         y: 16
         text: "Add a widget"
-        color: root.theme.shown.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 15
-        font.weight: Font.DemiBold
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
+        colors: root.theme.shown
+        font: Fonts.strong(Fonts.title)
     }
     IconButton {
         id: close

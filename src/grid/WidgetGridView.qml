@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -39,25 +42,24 @@ Item {
     }
 
     // Made anew wherever it appears, so that it does not come flying from where it was last.
-    Loader {
+    LazyItem {
         active: root.drag.hasTarget
         sourceComponent: DropHighlight {
-            x: root.drag.highlight.x // qmllint disable unqualified
-            y: root.drag.highlight.y // qmllint disable unqualified
-            width: root.drag.highlight.width // qmllint disable unqualified
-            height: root.drag.highlight.height // qmllint disable unqualified
-            fits: root.drag.fits // qmllint disable unqualified
+            x: root.drag.highlight.x
+            y: root.drag.highlight.y
+            width: root.drag.highlight.width
+            height: root.drag.highlight.height
+            fits: root.drag.fits
+            colors: root.theme.shown
 
             Behavior on x {
-                NumberAnimation {
-                    duration: Motion.quickFade.duration
-                    easing: Motion.quickFade.easing
+                MotionAnimation {
+                    movement: Motion.quickFade
                 }
             }
             Behavior on y {
-                NumberAnimation {
-                    duration: Motion.quickFade.duration
-                    easing: Motion.quickFade.easing
+                MotionAnimation {
+                    movement: Motion.quickFade
                 }
             }
         }
@@ -74,8 +76,7 @@ Item {
             viewState: root.viewState
             live: root.open && page === root.page && !leaving
             shown: (root.open || root.fading) && page === root.page && !leaving
-            // The row goes with its tile, which must not go within its own handler.
-            onDeparted: Qt.callLater(root.tiles.forget, instanceId)
+            onDeparted: root.tiles.forgetLater(instanceId)
             z: flipped ? 2 : 0
             onFlippedChanged: {
                 if (flipped)

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -83,47 +86,41 @@ Item {
     Behavior on x {
         enabled: root.entrance === 1
 
-        NumberAnimation {
-            duration: Motion.layout.duration
-            easing: Motion.layout.easing
+        MotionAnimation {
+            movement: Motion.layout
         }
     }
     Behavior on y {
         enabled: root.entrance === 1
 
-        NumberAnimation {
-            duration: Motion.layout.duration
-            easing: Motion.layout.easing
+        MotionAnimation {
+            movement: Motion.layout
         }
     }
     Behavior on width {
         enabled: root.entrance === 1
 
-        NumberAnimation {
-            duration: Motion.layout.duration
-            easing: Motion.layout.easing
+        MotionAnimation {
+            movement: Motion.layout
         }
     }
     Behavior on height {
         enabled: root.entrance === 1
 
-        NumberAnimation {
-            duration: Motion.layout.duration
-            easing: Motion.layout.easing
+        MotionAnimation {
+            movement: Motion.layout
         }
     }
     Behavior on angle {
-        NumberAnimation {
-            duration: Motion.flip.duration
-            easing: Motion.flip.easing
+        MotionAnimation {
+            movement: Motion.flip
         }
     }
     Behavior on scale {
         enabled: root.entrance === 1
 
-        NumberAnimation {
-            duration: Motion.hover.duration
-            easing: Motion.hover.easing
+        MotionAnimation {
+            movement: Motion.hover
         }
     }
     Behavior on entrance {
@@ -133,11 +130,10 @@ Item {
 
         SequentialAnimation {
             PauseAnimation {
-                duration: passage.comesIn && !Motion.reduced ? (root.row * 6 + root.col) * 30 : 0
+                duration: passage.comesIn ? (root.row * 6 + root.col) * Motion.stagger : 0
             }
-            NumberAnimation {
-                duration: passage.comesIn ? Motion.entrance.duration : Motion.fade.duration
-                easing: passage.comesIn ? Motion.entrance.easing : Motion.fade.easing
+            MotionAnimation {
+                movement: passage.comesIn ? Motion.entrance : Motion.fade
             }
         }
     }
@@ -185,9 +181,8 @@ Item {
         reduceTransparency: Motion.opaque
 
         Behavior on focusLevel {
-            NumberAnimation {
-                duration: Motion.hover.duration
-                easing: Motion.hover.easing
+            MotionAnimation {
+                movement: Motion.hover
             }
         }
     }
@@ -218,7 +213,7 @@ Item {
         border.color: root.theme.shown.textPrimary
     }
 
-    Loader {
+    LazyItem {
         id: back
 
         function takeFocus(): void {
@@ -232,12 +227,12 @@ Item {
         onLoaded: takeFocus()
         onVisibleChanged: takeFocus()
         sourceComponent: TileBack {
-            catalog: root.catalog // qmllint disable unqualified
-            theme: root.theme // qmllint disable unqualified
-            kind: root.kind // qmllint disable unqualified
-            instance: root.instance // qmllint disable unqualified
-            closesOnTap: root.isSmall // qmllint disable unqualified
-            onCloseRequested: root.viewState.clearFlip() // qmllint disable unqualified
+            catalog: root.catalog
+            theme: root.theme
+            kind: root.kind
+            instance: root.instance
+            closesOnTap: root.isSmall
+            onCloseRequested: root.viewState.clearFlip()
         }
     }
 }

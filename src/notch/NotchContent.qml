@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Settings
@@ -93,20 +96,18 @@ Item {
         Transition {
             to: "shown"
 
-            NumberAnimation {
+            MotionAnimation {
                 properties: "opacity,scale"
-                duration: Motion.panel.duration
-                easing: Motion.panel.easing
+                movement: Motion.panel
             }
         },
         Transition {
             to: ""
 
             SequentialAnimation {
-                NumberAnimation {
+                MotionAnimation {
                     property: "opacity"
-                    duration: Motion.panel.duration
-                    easing: Motion.panel.easing
+                    movement: Motion.panel
                 }
                 PropertyAction {
                     property: "scale"
@@ -116,21 +117,20 @@ Item {
     ]
 
     Behavior on arrival {
-        NumberAnimation {
-            duration: Motion.change.duration
-            easing: Motion.change.easing
+        MotionAnimation {
+            movement: Motion.change
         }
     }
 
-    Loader {
+    LazyItem {
         anchors.fill: parent
         anchors.topMargin: root.topInset
         active: opacity > 0
         enabled: !root.viewModel.onboardingCompleted
         opacity: 1 - root.arrival
         sourceComponent: NotchOnboarding {
-            scene: root.scene // qmllint disable unqualified
-            controller: root.controller // qmllint disable unqualified
+            scene: root.scene
+            controller: root.controller
         }
     }
 
@@ -162,7 +162,7 @@ Item {
     }
 
     // Made when it is opened, gone with the panel: it is rarely seen.
-    Loader {
+    LazyItem {
         id: settings
 
         readonly property bool wanted: root.viewModel.onboardingCompleted && root.viewModel.showSettings && (root.shown || root.opacity > 0)
@@ -187,26 +187,24 @@ Item {
         enabled: wanted && root.shown
         onLoaded: giveFocus()
         sourceComponent: ThemeSettingsView {
-            theme: root.scene.theme // qmllint disable unqualified
-            settings: root.scene.appSettings // qmllint disable unqualified
-            loginItem: root.scene.loginItem // qmllint disable unqualified
-            updater: root.scene.updater // qmllint disable unqualified
+            theme: root.scene.theme
+            settings: root.scene.appSettings
+            loginItem: root.scene.loginItem
+            updater: root.scene.updater
         }
 
         Behavior on opacity {
             enabled: settings.fades
 
-            NumberAnimation {
-                duration: Motion.fade.duration
-                easing: Motion.fade.easing
+            MotionAnimation {
+                movement: Motion.fade
             }
         }
         Behavior on scale {
             enabled: settings.fades && settings.wanted
 
-            NumberAnimation {
-                duration: Motion.panel.duration
-                easing: Motion.panel.easing
+            MotionAnimation {
+                movement: Motion.panel
             }
         }
     }
@@ -232,9 +230,8 @@ Item {
         Behavior on presence {
             enabled: settings.fades
 
-            NumberAnimation {
-                duration: Motion.fade.duration
-                easing: Motion.fade.easing
+            MotionAnimation {
+                movement: Motion.fade
             }
         }
 
@@ -275,14 +272,13 @@ Item {
 
             readonly property bool opens: targetValue === 1
 
-            NumberAnimation {
-                duration: curtain.opens ? Motion.panel.duration : Motion.fade.duration
-                easing: curtain.opens ? Motion.panel.easing : Motion.fade.easing
+            MotionAnimation {
+                movement: curtain.opens ? Motion.panel : Motion.fade
             }
         }
 
         // As large as the panel: it does not stay for the next time.
-        Loader {
+        LazyItem {
             anchors.fill: parent
             active: parent.visible
             sourceComponent: NotchOutline {
@@ -290,7 +286,7 @@ Item {
                 color: Qt.rgba(0, 0, 0, 0.55)
 
                 Tap {
-                    onTapped: root.closeGallery() // qmllint disable unqualified
+                    onTapped: root.closeGallery()
                 }
             }
         }

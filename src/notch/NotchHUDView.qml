@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Notch
 
@@ -36,20 +39,18 @@ Item {
         Transition {
             to: "shown"
 
-            NumberAnimation {
+            MotionAnimation {
                 properties: "opacity,lift"
-                duration: Motion.hud.duration
-                easing: Motion.hud.easing
+                movement: Motion.hud
             }
         },
         Transition {
             to: ""
 
             SequentialAnimation {
-                NumberAnimation {
+                MotionAnimation {
                     property: "opacity"
-                    duration: Motion.hudFade.duration
-                    easing: Motion.hudFade.easing
+                    movement: Motion.hudFade
                 }
                 PropertyAction {
                     property: "lift"
@@ -112,8 +113,6 @@ Item {
         horizontalAlignment: Text.AlignRight
         text: root.face.percent
         color: root.colors.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 8
-        font.weight: Font.Bold
+        font: Fonts.bold(Fonts.tiny)
     }
 }

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -50,9 +53,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.viewModel.showSettings ? qsTr("Settings") : qsTr("Brimlight")
                 color: root.colors.textPrimary
-                font.family: Fonts.rounded
-                font.pixelSize: 12
-                font.bold: true
+                font: Fonts.bold(Fonts.body)
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
@@ -113,15 +114,13 @@ Item {
                         color: capsule.current ? root.colors.accent : Qt.alpha(root.colors.textPrimary, 0.35)
 
                         Behavior on width {
-                            NumberAnimation {
-                                duration: Motion.dots.duration
-                                easing: Motion.dots.easing
+                            MotionAnimation {
+                                movement: Motion.dots
                             }
                         }
                         Behavior on color {
-                            ColorAnimation {
-                                duration: Motion.dots.duration
-                                easing: Motion.dots.easing
+                            MotionAnimation {
+                                movement: Motion.dots
                             }
                         }
 

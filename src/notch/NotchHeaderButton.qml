@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Grid
 import Brimlight.Theme
 
@@ -20,9 +23,8 @@ AbstractButton {
     scale: Motion.reduced ? 1 : 1 + 0.08 * glow
 
     Behavior on glow {
-        NumberAnimation {
-            duration: Motion.headerHover.duration
-            easing: Motion.headerHover.easing
+        MotionAnimation {
+            movement: Motion.headerHover
         }
     }
 
@@ -52,9 +54,8 @@ AbstractButton {
         color: root.tinted ? root.colors.accent : root.lit ? root.colors.textPrimary : root.colors.textSecondary
 
         Behavior on color {
-            ColorAnimation {
-                duration: Motion.headerHover.duration
-                easing: Motion.headerHover.easing
+            MotionAnimation {
+                movement: Motion.headerHover
             }
         }
     }

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Notch
@@ -25,9 +28,8 @@ Item {
     }
 
     Behavior on place {
-        NumberAnimation {
-            duration: Motion.onboarding.duration
-            easing: Motion.onboarding.easing
+        MotionAnimation {
+            movement: Motion.onboarding
         }
     }
 
@@ -83,30 +85,21 @@ Item {
                 color: root.colors.accent
             }
         }
-        Text {
+        Heading {
             id: title
 
             anchors.horizontalCenter: parent.horizontalCenter
             text: steps.current >= 0 ? qsTr(steps.title()) : ""
-            color: root.colors.textPrimary
-            font.family: Fonts.rounded
-            font.pixelSize: 17
-            font.weight: Font.Bold
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
+            colors: root.colors
+            font: Fonts.bold(Fonts.headline)
         }
-        Text {
+        Hint {
             anchors.horizontalCenter: parent.horizontalCenter
             width: root.width - 96
             text: steps.current >= 0 ? qsTr(steps.description()) : ""
-            color: root.colors.textSecondary
-            wrapMode: Text.WordWrap
+            colors: root.colors
             horizontalAlignment: Text.AlignHCenter
-            font.family: Fonts.rounded
-            font.pixelSize: 12
-            lineHeight: 1.15
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            font: Fonts.body
         }
     }
 
@@ -150,15 +143,13 @@ Item {
                 color: index === steps.current ? root.colors.accent : Qt.alpha(root.colors.textPrimary, 0.3)
 
                 Behavior on width {
-                    NumberAnimation {
-                        duration: Motion.onboarding.duration
-                        easing: Motion.onboarding.easing
+                    MotionAnimation {
+                        movement: Motion.onboarding
                     }
                 }
                 Behavior on color {
-                    ColorAnimation {
-                        duration: Motion.onboarding.duration
-                        easing: Motion.onboarding.easing
+                    MotionAnimation {
+                        movement: Motion.onboarding
                     }
                 }
             }

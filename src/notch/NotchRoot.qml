@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Notch
@@ -41,9 +44,8 @@ Item {
             backdrop: root.panel.backdrop
 
             Behavior on opacity {
-                NumberAnimation {
-                    duration: Motion.panel.duration
-                    easing: Motion.panel.easing
+                MotionAnimation {
+                    movement: Motion.panel
                 }
             }
         }
@@ -61,7 +63,7 @@ Item {
             anchors.fill: parent
             clip: true
 
-            Loader {
+            LazyItem {
                 id: content
 
                 property bool wanted: false
@@ -82,11 +84,11 @@ Item {
                 }
 
                 sourceComponent: NotchContent {
-                    scene: root.scene // qmllint disable unqualified
-                    controller: root.controller // qmllint disable unqualified
+                    scene: root.scene
+                    controller: root.controller
                     focus: true
-                    onStatusMenuRequested: (opener, position) => statusMenu.openAt(mapToItem(root, position), opener) // qmllint disable unqualified
-                    onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position)) // qmllint disable unqualified
+                    onStatusMenuRequested: (opener, position) => statusMenu.openAt(mapToItem(root, position), opener)
+                    onMenuRequested: (tile, instanceId, kind, position) => menu.openFor(tile, instanceId, kind, mapToItem(root, position))
                 }
             }
         }
@@ -110,7 +112,7 @@ Item {
     }
 
     // Made when first shown, then kept.
-    Loader {
+    LazyItem {
         id: hud
 
         active: false
@@ -125,11 +127,19 @@ Item {
         }
 
         sourceComponent: NotchHUDView {
-            face: root.scene.hud // qmllint disable unqualified
-            colors: root.colors // qmllint disable unqualified
-            place: root.panel.hudPlace // qmllint disable unqualified
-            onSeenChanged: root.panel.showHud(seen) // qmllint disable unqualified
+            face: root.scene.hud
+            colors: root.colors
+            place: root.panel.hudPlace
+            onSeenChanged: root.panel.showHud(seen)
         }
+    }
+
+    // Popovers of tiles; those of the settings have a layer of their own. They go with the panel.
+    PopoverLayer {
+        anchors.fill: parent
+        active: root.scene.viewModel.isExpanded
+        rest: content
+        onPlaced: (popover, frame) => root.panel.showPopover(popover, frame)
     }
 
     TileMenu {

@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Notch
@@ -61,7 +64,7 @@ FocusScope {
         y: Math.max(4, Math.min(root.place.y, root.height - height - 4))
         width: Math.max(implicitWidth, widest + 10)
         height: implicitHeight
-        theme: root.theme
+        colors: root.theme.shown
         Accessible.name: "Brimlight"
 
         Column {
@@ -82,7 +85,7 @@ FocusScope {
                     required property bool isChecked
 
                     width: parent.width
-                    theme: root.theme
+                    colors: root.theme.shown
                     text: title
                     checkable: isCheckable
                     checked: isChecked

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -24,10 +27,9 @@ Item {
         colors: root.colors
         value: root.face.fraction
         text: root.face.percent
-        caption: root.isLarge ? "Health" : ""
+        caption: root.isWide ? "" : "Health"
         tint: root.face.tint
         lineWidth: root.isLarge ? 8 : 5
-        textSize: root.isLarge ? 22 : 13
     }
     Column {
         visible: root.isWide && root.face.hasBattery

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -16,9 +19,7 @@ Column {
     Text {
         text: "Battery Settings"
         color: root.colors.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 12
-        font.weight: Font.Bold
+        font: Fonts.bold(Fonts.body)
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }

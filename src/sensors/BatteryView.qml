@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -28,7 +31,7 @@ Item {
         symbol: root.face.charging ? "bolt.fill" : ""
         tint: root.face.tint
         lineWidth: root.isLarge ? 8 : 5
-        textSize: root.isLarge ? 25 : 15
+        caption: root.context.size === "small" && !root.face.charging ? "Battery" : ""
         duration: Motion.rolling.duration
         easing: Motion.rolling.easing
         opacity: 0.72 + 0.28 * pulse
@@ -41,19 +44,17 @@ Item {
                     ring.pulse = 1;
             }
 
-            NumberAnimation {
+            MotionAnimation {
                 target: ring
                 property: "pulse"
                 to: 0
-                duration: 900
-                easing.type: Easing.InOutQuad
+                movement: Motion.charging
             }
-            NumberAnimation {
+            MotionAnimation {
                 target: ring
                 property: "pulse"
                 to: 1
-                duration: 900
-                easing.type: Easing.InOutQuad
+                movement: Motion.charging
             }
         }
     }
@@ -79,7 +80,7 @@ Item {
         Caption {
             width: parent.width
             colors: root.colors
-            font.pixelSize: 9
+            font: Fonts.footnote
             text: root.face.status
         }
     }

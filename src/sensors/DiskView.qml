@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -13,10 +16,8 @@ Item {
     readonly property bool isLarge: context.size === "large"
     readonly property bool isWide: context.size === "wide"
 
-    WidgetTitle {
+    TileTitle {
         visible: root.isLarge
-        x: 4
-        y: 3
         colors: root.colors
         symbol: "internaldrive"
         text: "Disk"
@@ -43,7 +44,7 @@ Item {
         text: root.face.percent
         tint: root.face.tint
         lineWidth: root.isLarge ? 8 : 4
-        textSize: root.isLarge ? 21 : 13
+        caption: root.context.size === "small" ? "Disk" : ""
     }
     Column {
         visible: root.isWide

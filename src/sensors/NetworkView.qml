@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -12,12 +15,10 @@ Item {
     readonly property theme colors: context.theme.shown
     readonly property string size: context.size
 
-    WidgetTitle {
+    TileTitle {
         id: heading
 
         visible: root.size === "large"
-        x: 4
-        y: 3
         colors: root.colors
         symbol: "network"
         text: "Network"
@@ -37,7 +38,7 @@ Item {
             colors: root.colors
             symbol: "arrow.down"
             text: rates.isSmall ? root.face.compactDown : root.face.down
-            textSize: root.size === "large" ? 15 : 12
+            style: root.size === "large" ? Fonts.title : Fonts.body
         }
         RateLine {
             width: parent.width
@@ -45,7 +46,7 @@ Item {
             symbol: "arrow.up"
             text: rates.isSmall ? root.face.compactUp : root.face.up
             tint: root.colors.textSecondary
-            textSize: root.size === "large" ? 15 : 12
+            style: root.size === "large" ? Fonts.title : Fonts.body
         }
     }
     RateBars {

@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 
@@ -38,9 +41,8 @@ AbstractButton {
         scale: root.pressed && root.works && !Motion.reduced ? 0.94 : 1
 
         Behavior on color {
-            ColorAnimation {
-                duration: Motion.headerHover.duration
-                easing: Motion.headerHover.easing
+            MotionAnimation {
+                movement: Motion.headerHover
             }
         }
 
@@ -68,10 +70,8 @@ AbstractButton {
         opacity: root.works ? 1 : 0.5
         elide: Text.ElideRight
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
-        font.family: Fonts.rounded
-        font.pixelSize: root.size === "small" ? 10 : 9
-        font.weight: Font.Medium
+        minimumPixelSize: Fonts.tiny.pixelSize
+        font: Fonts.medium(root.size === "small" ? Fonts.note : Fonts.footnote)
     }
     ToolTipLabel {
         // Within the row where that is wide enough.

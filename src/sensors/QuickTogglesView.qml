@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -13,12 +16,10 @@ Item {
     readonly property bool isSmall: context.size === "small"
     readonly property bool isLarge: context.size === "large"
 
-    WidgetTitle {
+    TileTitle {
         id: heading
 
         visible: root.isLarge
-        x: 4
-        y: 3
         colors: root.colors
         symbol: "switch.2"
         text: "System Toggles"

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Theme
 
@@ -9,7 +11,7 @@ Item {
     required property string symbol
     required property string text
     property color tint: colors.accent
-    property real textSize: 13
+    property font style: Fonts.subtitle
 
     implicitWidth: arrow.width + 5 + value.implicitWidth
     implicitHeight: value.implicitHeight
@@ -21,7 +23,7 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         name: root.symbol
-        size: root.textSize * 0.8
+        size: root.style.pixelSize * 0.8
         color: root.tint
     }
     Text {
@@ -33,9 +35,7 @@ Item {
         text: root.text
         color: root.colors.textPrimary
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
-        font.family: Fonts.rounded
-        font.pixelSize: root.textSize
-        font.weight: Font.DemiBold
+        minimumPixelSize: Fonts.tiny.pixelSize
+        font: Fonts.strong(root.style)
     }
 }

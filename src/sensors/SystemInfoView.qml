@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -13,19 +16,19 @@ Item {
     readonly property string size: context.size
     readonly property bool isStacked: size === "tall" || size === "large"
 
-    WidgetTitle {
+    TileTitle {
         id: heading
 
         visible: root.size === "huge"
-        x: 4
-        y: 3
         colors: root.colors
         symbol: "macbook"
         text: "System Info"
     }
     Item {
-        y: heading.visible ? heading.y + heading.height + 8 : 0
-        width: parent.width
+        // Clear of the round corners, where there is room.
+        x: root.size === "large" ? heading.x : 0
+        y: heading.visible ? heading.y + heading.height + 8 : root.size === "large" ? heading.y : 0
+        width: parent.width - 2 * x
         height: parent.height - y
 
         Repeater {
@@ -58,9 +61,7 @@ Item {
                     y: root.isStacked ? 0 : (parent.height - height) / 2
                     text: entry.label
                     color: root.colors.textSecondary
-                    font.family: Fonts.rounded
-                    font.pixelSize: root.size === "huge" ? 13 : root.size === "large" ? 10 : 9
-                    font.weight: Font.Medium
+                    font: Fonts.medium(root.size === "huge" ? Fonts.subtitle : root.size === "large" ? Fonts.note : Fonts.footnote)
                 }
                 Text {
                     id: value
@@ -77,10 +78,8 @@ Item {
                     wrapMode: entry.wraps ? Text.WordWrap : Text.NoWrap
                     maximumLineCount: entry.wraps ? 2 : 1
                     fontSizeMode: entry.wraps ? Text.Fit : Text.HorizontalFit
-                    minimumPixelSize: 8
-                    font.family: Fonts.rounded
-                    font.pixelSize: root.size === "huge" ? 14 : root.size === "large" ? 12 : 10
-                    font.weight: Font.DemiBold
+                    minimumPixelSize: Fonts.tiny.pixelSize
+                    font: Fonts.strong(root.size === "huge" ? Fonts.value : root.size === "large" ? Fonts.body : Fonts.note)
                 }
             }
         }

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -18,18 +21,15 @@ Item {
         height: width
         colors: root.colors
         lineWidth: root.isLarge ? 6 : 5
-        textSize: root.isLarge ? 15 : 13
     }
 
-    WidgetTitle {
+    TileTitle {
         visible: root.isLarge
-        x: 4
-        y: 3
         colors: root.colors
         symbol: "cpu"
         text: "CPU / RAM"
     }
-    Loader {
+    LazyItem {
         anchors.fill: parent
         sourceComponent: root.isSmall ? twoInOne : sideBySide
 
@@ -66,17 +66,13 @@ Item {
                         anchors.horizontalCenter: parent.horizontalCenter
                         text: root.face.cpuText
                         color: root.colors.textPrimary
-                        font.family: Fonts.rounded
-                        font.pixelSize: 10
-                        font.weight: Font.Bold
+                        font: Fonts.bold(Fonts.note)
                     }
                     Text {
                         anchors.horizontalCenter: parent.horizontalCenter
                         text: root.face.ramText
                         color: root.colors.textSecondary
-                        font.family: Fonts.rounded
-                        font.pixelSize: 9
-                        font.weight: Font.DemiBold
+                        font: Fonts.strong(Fonts.footnote)
                     }
                 }
             }

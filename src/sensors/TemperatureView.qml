@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Grid
 import Brimlight.Sensors
@@ -38,7 +41,7 @@ Item {
         value: root.face.fraction
         text: root.face.cpuText
         tint: root.face.tint
-        textSize: root.isWide || !root.face.hasBattery ? 15 : 12
+        caption: root.isWide ? "" : "CPU"
     }
     BatteryLine {
         visible: !root.isWide && root.face.hasCpu && root.face.hasBattery
@@ -81,9 +84,7 @@ Item {
         Text {
             text: root.face.stateText
             color: root.colors.textPrimary
-            font.family: Fonts.rounded
-            font.pixelSize: root.isWide ? 14 : 11
-            font.weight: Font.DemiBold
+            font: Fonts.strong(root.isWide ? Fonts.value : Fonts.label)
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }

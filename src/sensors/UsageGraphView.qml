@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -33,24 +35,20 @@ Item {
         Text {
             text: legend.label
             color: root.colors.textSecondary
-            font.family: Fonts.rounded
-            font.pixelSize: root.isOneRow ? 9 : 11
-            font.weight: Font.Medium
+            font: Fonts.medium(root.isOneRow ? Fonts.footnote : Fonts.label)
         }
         Text {
             text: legend.value
             color: root.colors.textPrimary
-            font.family: Fonts.rounded
-            font.pixelSize: root.isOneRow ? 9 : 11
-            font.weight: Font.DemiBold
+            font: Fonts.strong(root.isOneRow ? Fonts.footnote : Fonts.label)
         }
     }
 
     Item {
         id: header
 
-        x: 3
-        y: root.isOneRow ? 0 : 2
+        x: 4
+        y: root.isOneRow ? 0 : 3
         width: parent.width - 2 * x
         height: root.isOneRow ? 12 : 16
 
@@ -100,8 +98,7 @@ Item {
                     anchors.verticalCenter: parent.verticalCenter
                     text: line.modelData
                     color: root.colors.textSecondary
-                    font.family: Fonts.rounded
-                    font.pixelSize: 8
+                    font: Fonts.tiny
                 }
             }
         }

@@ -1,5 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import Brimlight.Grid
+import Brimlight.Controls
 import Brimlight.Settings
 import Brimlight.Theme
 
@@ -37,16 +39,14 @@ ScrollArea {
                 anchors.bottom: parent.bottom
                 text: qsTr("Transparency & Tint")
                 color: root.colors.textPrimary
-                font.family: Fonts.rounded
-                font.pixelSize: 12
+                font: Fonts.body
             }
             Text {
                 anchors.right: parent.right
                 anchors.baseline: strengthLabel.baseline
                 text: choices.strengthText
                 color: root.colors.textSecondary
-                font.family: Fonts.rounded
-                font.pixelSize: 11
+                font: Fonts.label
             }
         }
         Slider {

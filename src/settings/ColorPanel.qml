@@ -1,7 +1,9 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Settings
 import Brimlight.Theme
-import Brimlight.Grid
 
 // The parts of one colour. Each movement is a change of the theme.
 Rectangle {
@@ -27,8 +29,7 @@ Rectangle {
     component Label: Text {
         anchors.verticalCenter: parent.verticalCenter
         color: root.colors.textSecondary
-        font.family: Fonts.rounded
-        font.pixelSize: 10
+        font: Fonts.note
     }
     component Line: Item {
         width: column.width
@@ -168,44 +169,18 @@ Rectangle {
             Label {
                 text: "Hex"
             }
-            Rectangle {
+            TextField {
                 x: root.labelWidth + 12
                 width: 92
                 height: 22
-                radius: 6
-                color: Qt.rgba(1, 1, 1, 0.08)
-                border.color: Qt.rgba(1, 1, 1, hex.activeFocus ? 0.4 : 0.1)
-
-                TextInput {
-                    id: hex
-
-                    anchors.fill: parent
-                    leftPadding: 8
-                    rightPadding: 8
-                    verticalAlignment: TextInput.AlignVCenter
-                    text: draft.hex
-                    maximumLength: 9
-                    selectByMouse: true
-                    clip: true
-                    color: root.colors.textPrimary
-                    selectionColor: root.colors.accent
-                    selectedTextColor: root.colors.textOnAccent
-                    font.family: Fonts.monospaced
-                    font.pixelSize: 11
-                    activeFocusOnTab: true
-                    Accessible.role: Accessible.EditableText
-                    Accessible.name: qsTr("Hex value")
-                    Accessible.editable: true
-                    Accessible.focusable: true
-                    onTextEdited: draft.pickHex(text)
-                    // What makes no sense is put back.
-                    onEditingFinished: text = Qt.binding(() => draft.hex)
-                }
-                FocusRing {
-                    target: hex
-                    corner: 6
-                    border.color: root.colors.textPrimary
-                }
+                label: qsTr("Hex value")
+                colors: root.colors
+                text: draft.hex
+                maximumLength: 9
+                font: Fonts.code
+                onEdited: text => draft.pickHex(text)
+                // What makes no sense is put back.
+                onFinished: text = Qt.binding(() => draft.hex)
             }
         }
     }

@@ -1,6 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
-import Brimlight.Grid
 
 // One colour of the theme with its opacity. A press opens what it is made of below.
 Column {
@@ -43,8 +45,7 @@ Column {
             elide: Text.ElideRight
             text: root.label
             color: root.colors.textPrimary
-            font.family: Fonts.rounded
-            font.pixelSize: 11
+            font: Fonts.label
         }
         Text {
             id: value
@@ -54,8 +55,7 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
             color: root.colors.textSecondary
-            font.family: Fonts.monospaced
-            font.pixelSize: 10
+            font: Fonts.sized(Fonts.code, Fonts.note.pixelSize)
         }
         // Half of it on white and half on black, so that the opacity shows.
         Item {
@@ -98,7 +98,7 @@ Column {
             }
         }
     }
-    Loader {
+    LazyItem {
         width: root.width
         active: root.open
         visible: active

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Settings
 import Brimlight.Theme
 import Brimlight.Update
@@ -12,8 +15,6 @@ ScrollArea {
     required property AppSettings settings
     required property LoginItemService loginItem
     required property UpdateService updater
-    // Where menus open.
-    required property Item overlay
 
     colors: theme.shown
 
@@ -21,17 +22,6 @@ ScrollArea {
         id: choices
 
         settings: root.settings
-    }
-
-    component Hint: Text {
-        width: parent.width
-        color: root.colors.textSecondary
-        wrapMode: Text.WordWrap
-        font.family: Fonts.rounded
-        font.pixelSize: 10
-        lineHeight: 1.15
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
     }
 
     SettingsCard {
@@ -87,8 +77,7 @@ ScrollArea {
             label: qsTr("Language")
             options: choices.languages
             current: choices.language
-            overlay: root.overlay
-            theme: root.theme
+            colors: root.colors
             onChosen: index => choices.chooseLanguage(index)
         }
     }
@@ -99,6 +88,8 @@ ScrollArea {
         colors: root.colors
 
         Hint {
+            width: parent.width
+            colors: root.colors
             text: qsTr("Requires hovering the mouse over the notch for the selected duration before expanding. Prevents accidental triggers.")
         }
         MenuPicker {
@@ -106,8 +97,7 @@ ScrollArea {
             label: qsTr("Hover Delay")
             options: choices.hoverDelays
             current: choices.hoverDelay
-            overlay: root.overlay
-            theme: root.theme
+            colors: root.colors
             onChosen: index => choices.chooseHoverDelay(index)
         }
     }
@@ -118,6 +108,8 @@ ScrollArea {
         colors: root.colors
 
         Hint {
+            width: parent.width
+            colors: root.colors
             text: qsTr("Controls update speed of active widgets in the expanded notch. Slower updates conserve your computer's battery.")
         }
         MenuPicker {
@@ -125,8 +117,7 @@ ScrollArea {
             label: qsTr("Refresh Interval")
             options: choices.refreshRates
             current: choices.refreshRate
-            overlay: root.overlay
-            theme: root.theme
+            colors: root.colors
             onChosen: index => choices.chooseRefreshRate(index)
         }
     }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Theme
 
@@ -54,9 +56,7 @@ Rectangle {
                 anchors.centerIn: parent
                 text: "09:41"
                 color: root.colors.textPrimary
-                font.family: Fonts.rounded
-                font.pixelSize: 26
-                font.weight: Font.Bold
+                font: Fonts.bold(Fonts.display)
             }
         }
     }

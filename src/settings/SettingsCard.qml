@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
 
 // A group of controls under a title.
@@ -12,8 +15,8 @@ Rectangle {
 
     implicitHeight: column.y + column.height + 14
     radius: 14
-    color: Qt.rgba(1, 1, 1, 0.05)
-    border.color: Qt.rgba(1, 1, 1, 0.07)
+    color: Qt.alpha(colors.textPrimary, 0.05)
+    border.color: Qt.alpha(colors.textPrimary, 0.07)
     Accessible.role: Accessible.Grouping
     Accessible.name: title
 
@@ -24,20 +27,14 @@ Rectangle {
         size: 12
         color: root.colors.accent
     }
-    Text {
+    Heading {
         id: heading
 
         x: 36
         y: 12
         width: root.width - x - 14
-        elide: Text.ElideRight
+        colors: root.colors
         text: root.title
-        color: root.colors.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 12
-        font.weight: Font.Bold
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
     }
     Column {
         id: column

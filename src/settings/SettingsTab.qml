@@ -1,6 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
-import Brimlight.Grid
 
 // The button of one tab.
 AbstractButton {
@@ -43,9 +45,7 @@ AbstractButton {
             anchors.verticalCenter: parent.verticalCenter
             text: root.title
             color: root.tint
-            font.family: Fonts.rounded
-            font.pixelSize: 11
-            font.weight: Font.DemiBold
+            font: Fonts.strong(Fonts.label)
         }
     }
 }

@@ -1,6 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Brimlight.Controls
 import Brimlight.Theme
-import Brimlight.Grid
 
 // One preset: its surface with a tile and its texts, the accent, and its name.
 AbstractButton {
@@ -72,9 +74,8 @@ AbstractButton {
             opacity: root.marked ? 1 : 0
 
             Behavior on opacity {
-                NumberAnimation {
-                    duration: Motion.selection.duration
-                    easing: Motion.selection.easing
+                MotionAnimation {
+                    movement: Motion.selection
                 }
             }
         }
@@ -90,9 +91,8 @@ AbstractButton {
             visible: scale > 0
 
             Behavior on scale {
-                NumberAnimation {
-                    duration: Motion.selection.duration
-                    easing: Motion.selection.easing
+                MotionAnimation {
+                    movement: Motion.selection
                 }
             }
         }
@@ -113,8 +113,6 @@ AbstractButton {
         elide: Text.ElideRight
         text: root.preset.name
         color: root.marked ? root.colors.textPrimary : root.colors.textSecondary
-        font.family: Fonts.rounded
-        font.pixelSize: 10
-        font.weight: root.marked ? Font.DemiBold : Font.Normal
+        font: root.marked ? Fonts.strong(Fonts.note) : Fonts.note
     }
 }

@@ -1,5 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
+import Brimlight.Controls
 import Brimlight.Theme
 import Brimlight.Update
 
@@ -51,15 +54,10 @@ Item {
             onClicked: root.activeTab = 1
         }
     }
-    Loader {
+    LazyItem {
         anchors.fill: parent
         anchors.topMargin: tabs.height + 12
         sourceComponent: root.activeTab === 0 ? generalTab : appearanceTab
-    }
-    Item {
-        id: menuLayer
-
-        anchors.fill: parent
     }
     Component {
         id: generalTab
@@ -69,7 +67,6 @@ Item {
             settings: root.settings
             loginItem: root.loginItem
             updater: root.updater
-            overlay: menuLayer
         }
     }
     Component {
@@ -78,5 +75,9 @@ Item {
         AppearanceSettings {
             theme: root.theme
         }
+    }
+    PopoverLayer {
+        anchors.fill: parent
+        rest: root
     }
 }

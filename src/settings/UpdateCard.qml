@@ -1,6 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
-import Brimlight.Grid
+import Brimlight.Controls
 import Brimlight.Settings
 import Brimlight.Theme
 import Brimlight.Update
@@ -47,13 +49,10 @@ SettingsCard {
                 anchors.verticalCenter: parent.verticalCenter
                 color: root.colors.textPrimary
             }
-            Text {
+            Label {
                 text: qsTr("Checking for updates...")
+                colors: root.colors
                 color: root.colors.textSecondary
-                font.family: Fonts.rounded
-                font.pixelSize: 11
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
             }
         }
         TextButton {
@@ -72,25 +71,17 @@ SettingsCard {
         width: parent.width
         height: version.height
 
-        Text {
+        Hint {
             id: version
 
             text: status.versionText
-            color: root.colors.textSecondary
-            font.family: Fonts.rounded
-            font.pixelSize: 10
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            colors: root.colors
         }
-        Text {
+        Hint {
             anchors.right: parent.right
             visible: text !== ""
             text: status.lastCheckedText
-            color: root.colors.textSecondary
-            font.family: Fonts.rounded
-            font.pixelSize: 10
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            colors: root.colors
         }
     }
     Rectangle {
@@ -109,14 +100,14 @@ SettingsCard {
             visible: status.symbol !== ""
             name: status.symbol
             size: 12
-            color: status.isError ? "#FF9F0A" : "#30D158"
+            color: status.isError ? root.colors.warning : root.colors.good
         }
         Spinner {
             anchors.verticalCenter: parent.verticalCenter
             visible: status.isInstalling
             color: root.colors.textPrimary
         }
-        Text {
+        Label {
             id: message
 
             anchors.left: parent.left
@@ -125,13 +116,10 @@ SettingsCard {
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
             text: status.message
-            color: root.colors.textPrimary
+            colors: root.colors
             wrapMode: Text.WordWrap
-            font.family: Fonts.rounded
-            font.pixelSize: 11
-            font.weight: Font.DemiBold
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            elide: Text.ElideNone
+            font: Fonts.strong(Fonts.label)
         }
         Item {
             id: action
@@ -162,54 +150,24 @@ SettingsCard {
             }
         }
     }
-    Text {
+    Hint {
         width: parent.width
         visible: text !== ""
         text: status.detail
-        textFormat: Text.PlainText
-        color: root.colors.textSecondary
-        wrapMode: Text.Wrap
-        font.family: Fonts.rounded
-        font.pixelSize: 10
-        lineHeight: 1.15
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        colors: root.colors
     }
-    Item {
+    ProgressBar {
         width: parent.width
         height: 14
         visible: status.isDownloading
-        Accessible.role: Accessible.ProgressBar
+        label: status.message
+        labelWidth: 0
+        fraction: status.progress
+        text: status.progressText
+        textWidth: 32
+        font: Fonts.note
+        colors: root.colors
         Accessible.name: status.message
         Accessible.description: status.progressText
-
-        Rectangle {
-            anchors.left: parent.left
-            anchors.right: percent.left
-            anchors.rightMargin: 8
-            anchors.verticalCenter: parent.verticalCenter
-            height: 5
-            radius: 2.5
-            color: Qt.alpha(root.colors.accent, 0.18)
-
-            Rectangle {
-                width: Math.max(height, parent.width * status.progress)
-                height: parent.height
-                radius: parent.radius
-                color: root.colors.accent
-            }
-        }
-        Text {
-            id: percent
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            width: 32
-            horizontalAlignment: Text.AlignRight
-            text: status.progressText
-            color: root.colors.textPrimary
-            font.family: Fonts.rounded
-            font.pixelSize: 10
-        }
     }
 }

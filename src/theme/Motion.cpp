@@ -22,15 +22,14 @@ MotionCurve spring(double response, double dampingFraction)
     return {static_cast<int>(spring.settlingTime().count()), spring.easing()};
 }
 
-const QEasingCurve &easeOutCurve()
-{
-    static const QEasingCurve curve = bezier({0, 0}, {0.58, 1});
-    return curve;
-}
-
 MotionCurve easedOut(int milliseconds)
 {
-    return {milliseconds, easeOutCurve()};
+    return {milliseconds, bezier({0, 0}, {0.58, 1})};
+}
+
+MotionCurve toAndFro(int milliseconds)
+{
+    return {milliseconds, Motion::easeInOut()};
 }
 
 } // namespace
@@ -118,6 +117,8 @@ MotionCurve Motion::compute(Name name)
         return easedOut(200);
     case Name::change:
         return easedOut(250);
+    case Name::charging:
+        return toAndFro(900);
     case Name::count:
         break;
     }

@@ -16,8 +16,8 @@ namespace brimlight {
 
 class Appearance;
 
-/// What an animation needs to be told: `NumberAnimation { duration: Motion.hover.duration; easing:
-/// Motion.hover.easing }`.
+/// One movement: what an animation needs to be told. Views hand it over whole, `MotionAnimation { movement:
+/// Motion.hover }`.
 struct MotionCurve
 {
     Q_GADGET
@@ -60,6 +60,10 @@ class Motion : public QObject
     Q_PROPERTY(brimlight::MotionCurve fade READ fade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve hudFade READ hudFade NOTIFY changed)
     Q_PROPERTY(brimlight::MotionCurve change READ change NOTIFY changed)
+    Q_PROPERTY(brimlight::MotionCurve charging READ charging NOTIFY changed)
+    Q_PROPERTY(int stagger READ stagger NOTIFY changed)
+    Q_PROPERTY(int tipDelay READ tipDelay CONSTANT)
+    Q_PROPERTY(int spinnerStep READ spinnerStep CONSTANT)
 
 public:
     /// The spring of the panel, for who follows it step by step.
@@ -99,6 +103,16 @@ public:
     MotionCurve fade() const { return curve(Name::fade); }           ///< 0.18, what closes
     MotionCurve hudFade() const { return curve(Name::hudFade); }     ///< 0.2, the heads-up display
     MotionCurve change() const { return curve(Name::change); } ///< 0.25, what takes the place of something
+    /// One way of what goes to and fro for ever, which stands still while `reduced`. Slow at both ends, with
+    /// seconds.
+    MotionCurve charging() const { return curve(Name::charging); } ///< 0.9, a battery that charges
+
+    /// How much later each of several things comes in than the one before, in milliseconds.
+    int stagger() const { return m_reduced ? 0 : 30; }
+    /// How long the pointer rests before a tool tip shows, in milliseconds.
+    int tipDelay() const { return 700; }
+    /// Between two steps of a spinner, in milliseconds.
+    int spinnerStep() const { return 100; }
 
     /// For a movement with a duration of its own. Who uses it asks `reduced`.
     static const QEasingCurve &easeInOut();
@@ -125,6 +139,7 @@ private:
         fade,
         hudFade,
         change,
+        charging,
         count
     };
 

@@ -4,7 +4,8 @@
 
 namespace brimlight::signalColors {
 
-/// What asks for attention and what asks for action, the same in every theme.
+/// What is well, what asks for attention and what asks for action, the same in every theme.
+inline const QColor green(48, 209, 88);
 inline const QColor orange(255, 159, 10);
 inline const QColor red(255, 69, 58);
 

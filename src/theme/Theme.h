@@ -1,5 +1,7 @@
 #pragma once
 
+#include "theme/SignalColors.h"
+
 #include <QColor>
 #include <QList>
 #include <QString>
@@ -51,6 +53,9 @@ struct Theme
     Q_PROPERTY(QColor textPrimary READ textPrimaryColor)
     Q_PROPERTY(QColor textSecondary READ textSecondaryColor)
     Q_PROPERTY(QColor separator READ separatorColor)
+    Q_PROPERTY(QColor good READ good)
+    Q_PROPERTY(QColor warning READ warning)
+    Q_PROPERTY(QColor critical READ critical)
 
 public:
     /// That of a preset, or `customId`.
@@ -79,6 +84,10 @@ public:
     QColor textPrimaryColor() const { return textPrimary.toColor(); }
     QColor textSecondaryColor() const { return textSecondary.toColor(); }
     QColor separatorColor() const { return separator.toColor(); }
+    /// Signals, the same in every theme.
+    static QColor good() { return signalColors::green; }
+    static QColor warning() { return signalColors::orange; }
+    static QColor critical() { return signalColors::red; }
 
     /// On the way from one to the other, at `progress` from 0 to 1; a spring goes a little beyond.
     static Theme mixed(const Theme &from, const Theme &to, double progress);

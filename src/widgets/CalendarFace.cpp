@@ -1,13 +1,10 @@
 #include "widgets/CalendarFace.h"
 
+#include "controls/Weekdays.h"
+
 #include <QLocale>
 
 namespace brimlight {
-
-int leadingCells(const QDate &firstOfMonth, Qt::DayOfWeek firstDayOfWeek)
-{
-    return (firstOfMonth.dayOfWeek() - firstDayOfWeek + 7) % 7;
-}
 
 QList<CalendarDay> monthCells(const QDate &today, Qt::DayOfWeek firstDayOfWeek)
 {
@@ -42,13 +39,7 @@ QString CalendarFace::title() const
 
 QStringList CalendarFace::weekdays() const
 {
-    const QLocale locale;
-    QStringList names;
-    for (int offset = 0; offset < 7; ++offset) {
-        const int day = (locale.firstDayOfWeek() - 1 + offset) % 7 + 1;
-        names.append(locale.standaloneDayName(day, QLocale::NarrowFormat).left(2));
-    }
-    return names;
+    return weekdayLetters(QLocale());
 }
 
 QVariantList CalendarFace::cells() const

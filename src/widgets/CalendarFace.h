@@ -21,8 +21,6 @@ public:
     bool operator==(const CalendarDay &) const = default;
 };
 
-/// Empty cells before the first of the month: (weekday - firstDayOfWeek + 7) modulo 7.
-int leadingCells(const QDate &firstOfMonth, Qt::DayOfWeek firstDayOfWeek);
 /// The month of `today`, with its empty cells in front.
 QList<CalendarDay> monthCells(const QDate &today, Qt::DayOfWeek firstDayOfWeek);
 /// The week of `today`.

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -12,18 +14,18 @@ Item {
     readonly property theme colors: context.theme.shown
     readonly property real cellWidth: (width - 6 * 2) / 7
     readonly property int rows: Math.ceil(root.face.cells.length / 7)
-    readonly property real headerHeight: title.visible ? title.height + 3 : 0
+    readonly property real headerHeight: title.visible ? title.y + title.height + 3 : 0
     readonly property real cellHeight: root.face.showsWeek ? 26 : Math.min(26, (height - headerHeight - 15 - rows * 2) / Math.max(rows, 1))
 
     Text {
         id: title
 
+        x: 4
+        y: 3
         visible: !root.face.showsWeek && root.context.size === "huge"
         text: root.face.title
         color: root.colors.textPrimary
-        font.family: Fonts.rounded
-        font.pixelSize: 13
-        font.weight: Font.Bold
+        font: Fonts.bold(Fonts.subtitle)
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
@@ -45,9 +47,7 @@ Item {
                 horizontalAlignment: Text.AlignHCenter
                 text: modelData
                 color: root.colors.textSecondary
-                font.family: Fonts.rounded
-                font.pixelSize: root.face.showsWeek ? 10 : 11
-                font.weight: Font.Medium
+                font: Fonts.medium(root.face.showsWeek ? Fonts.note : Fonts.label)
             }
         }
         Repeater {
@@ -78,9 +78,7 @@ Item {
                     visible: cell.modelData.day > 0
                     text: cell.modelData.day
                     color: cell.modelData.isToday ? root.colors.textOnAccent : root.colors.textPrimary
-                    font.family: Fonts.rounded
-                    font.pixelSize: 10
-                    font.weight: cell.modelData.isToday ? Font.Bold : Font.Normal
+                    font: cell.modelData.isToday ? Fonts.bold(Fonts.note) : Fonts.note
                 }
             }
         }

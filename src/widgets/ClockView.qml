@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -10,7 +12,6 @@ Item {
     required property WidgetContext context
     required property ClockFace face
     readonly property theme colors: context.theme.shown
-    readonly property string family: root.face.font === "monospaced" ? Fonts.monospaced : root.face.font === "serif" ? Fonts.serif : Fonts.rounded
 
     Column {
         anchors.centerIn: parent
@@ -26,9 +27,7 @@ Item {
                 width: Math.min(implicitWidth, root.width - seconds.width - 4)
                 text: root.face.time
                 reduceMotion: Motion.reduced
-                font.family: root.family
-                font.pixelSize: root.face.fontSize
-                font.weight: Font.DemiBold
+                font: Fonts.designed(Fonts.sized(Fonts.strong(Fonts.display), root.face.fontSize), root.face.font)
                 color: root.face.style === "solid" ? root.colors.accent : root.colors.textPrimary
                 gradientEnd: root.face.style === "gradient" ? root.colors.accent : color
                 Accessible.role: Accessible.StaticText
@@ -45,17 +44,13 @@ Item {
                     visible: text !== ""
                     text: root.face.meridiem
                     color: root.colors.textSecondary
-                    font.family: Fonts.rounded
-                    font.pixelSize: 11
-                    font.weight: Font.DemiBold
+                    font: Fonts.strong(Fonts.label)
                 }
                 RollingNumber {
                     visible: root.face.seconds !== ""
                     text: root.face.seconds
                     reduceMotion: Motion.reduced
-                    font.family: root.family
-                    font.pixelSize: 14
-                    font.weight: Font.DemiBold
+                    font: Fonts.strong(Fonts.designed(Fonts.value, root.face.font))
                     color: root.colors.accent
                 }
             }
@@ -67,9 +62,7 @@ Item {
             elide: Text.ElideRight
             text: root.face.date
             color: root.colors.textSecondary
-            font.family: Fonts.rounded
-            font.pixelSize: 11
-            font.weight: Font.Medium
+            font: Fonts.medium(Fonts.label)
         }
     }
 }

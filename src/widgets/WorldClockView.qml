@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Brimlight.Core
 import Brimlight.Theme
@@ -52,8 +54,7 @@ Item {
                     fontSizeMode: Text.HorizontalFit
                     minimumPixelSize: root.isTall ? 6 : 8
                     elide: Text.ElideRight
-                    font.family: Fonts.rounded
-                    font.pixelSize: root.isTall ? 9 : 11
+                    font: root.isTall ? Fonts.footnote : Fonts.label
                 }
                 RollingNumber {
                     id: time
@@ -62,9 +63,7 @@ Item {
                     y: root.isTall ? label.height + 1 : (parent.height - height) / 2
                     text: place.entry.time
                     reduceMotion: Motion.reduced
-                    font.family: Fonts.rounded
-                    font.pixelSize: root.isTall ? 15 : 14
-                    font.weight: Font.DemiBold
+                    font: Fonts.strong(root.isTall ? Fonts.title : Fonts.value)
                     color: root.colors.textPrimary
                 }
             }

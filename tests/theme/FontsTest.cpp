@@ -24,6 +24,33 @@ TEST(Fonts, FamiliesOfThePackageListAreThere)
     EXPECT_EQ(fonts.serif(), QStringLiteral("Charis SIL"));
 }
 
+TEST(Fonts, AStyleKeepsItsSizeInAnotherWeightAndItsWeightAtAnotherSize)
+{
+    const Fonts fonts;
+    const QFont strong = fonts.strong(fonts.label());
+    EXPECT_EQ(strong.pixelSize(), fonts.label().pixelSize());
+    EXPECT_EQ(strong.weight(), QFont::DemiBold);
+    EXPECT_EQ(fonts.medium(strong).weight(), QFont::Medium);
+    EXPECT_EQ(fonts.bold(strong).weight(), QFont::Bold);
+    const QFont large = fonts.sized(strong, 21.6);
+    EXPECT_EQ(large.pixelSize(), 22);
+    EXPECT_EQ(large.weight(), QFont::DemiBold);
+    EXPECT_EQ(fonts.sized(strong, -3).pixelSize(), 1) << "a tile that has no room yet";
+}
+
+TEST(Fonts, ADesignNamesAFamily)
+{
+    const Fonts fonts;
+    const auto family = [&](const char *design) {
+        return fonts.designed(fonts.label(), QLatin1String(design)).family();
+    };
+    EXPECT_EQ(family("serif"), fonts.serif());
+    EXPECT_EQ(family("monospaced"), fonts.monospaced());
+    EXPECT_EQ(family("rounded"), fonts.rounded());
+    EXPECT_EQ(family("whatever"), fonts.rounded());
+    EXPECT_EQ(fonts.code().family(), fonts.monospaced());
+}
+
 TEST(Fonts, DigitsHaveOneWidthInEveryWeight)
 {
     const Fonts fonts;

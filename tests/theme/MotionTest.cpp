@@ -2,6 +2,7 @@
 
 #include "fakes/DirectFileWriter.h"
 #include "fakes/Fakes.h"
+#include "theme/Fonts.h"
 #include "theme/ThemeStore.h"
 
 #include <gtest/gtest.h>
@@ -82,7 +83,16 @@ TEST(Motion, EaseOutsTakeTheirTimeAndSlowDown)
     EXPECT_EQ(motion.hudFade().duration, 200);
     EXPECT_EQ(motion.change().duration, 250);
     EXPECT_GT(motion.change().easing.valueForProgress(0.5), 0.6);
-    EXPECT_NEAR(motion.easeInOut().valueForProgress(0.5), 0.5, 1e-3);
+    EXPECT_NEAR(motion.change().easing.valueForProgress(1), 1, 1e-6);
+}
+
+TEST(Motion, WhatGoesToAndFroIsSlowAtBothEnds)
+{
+    const Motion motion(nullptr);
+    EXPECT_EQ(motion.charging().duration, 900);
+    EXPECT_LT(motion.charging().easing.valueForProgress(0.1), 0.05);
+    EXPECT_NEAR(motion.charging().easing.valueForProgress(0.5), 0.5, 1e-3);
+    EXPECT_GT(motion.charging().easing.valueForProgress(0.9), 0.95);
 }
 
 TEST(Motion, NothingIsReducedWithoutAnAppearance)
@@ -102,7 +112,8 @@ TEST(Motion, UnderReducedMotionNothingTakesTime)
     EXPECT_TRUE(motion.isReduced());
     EXPECT_FALSE(motion.isOpaque());
     const auto all = curves(motion);
-    EXPECT_EQ(all.size(), 17);
+    EXPECT_EQ(all.size(), 18);
+    EXPECT_EQ(motion.stagger(), 0);
     for (auto it = all.begin(); it != all.end(); ++it)
         EXPECT_EQ(it->duration, 0) << it.key().constData();
 }
@@ -179,13 +190,14 @@ TEST_F(MotionQml, AReducedBehaviourJumps)
     EXPECT_EQ(item->property("x").toDouble(), 100);
 }
 
-TEST_F(MotionQml, FontsAreFamilies)
+TEST_F(MotionQml, AStyleOfTypeIsTakenWhole)
 {
-    const auto object =
-        make("QtObject { property list<string> names: [Fonts.rounded, Fonts.monospaced, Fonts.serif] }");
-    ASSERT_TRUE(object);
-    for (const QString &name : object->property("names").toStringList())
-        EXPECT_FALSE(name.isEmpty());
+    const auto text = make("Text { font: Fonts.strong(Fonts.label) }");
+    ASSERT_TRUE(text);
+    const auto font = text->property("font").value<QFont>();
+    EXPECT_EQ(font.pixelSize(), 11);
+    EXPECT_EQ(font.weight(), QFont::DemiBold);
+    EXPECT_EQ(font.family(), Fonts().label().family());
 }
 
 TEST_F(MotionQml, AViewReadsAndChangesTheTheme)

@@ -1,3 +1,4 @@
+#include "controls/Weekdays.h"
 #include "widgets/AnalogClockFace.h"
 #include "widgets/CalendarFace.h"
 #include "widgets/ClockFace.h"
