@@ -17,10 +17,6 @@
 
 namespace brimlight {
 
-/// The rows of pixels that an outline covers, within a window whose frame is `extent`.
-std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent,
-                                         double devicePixelRatio);
-
 /// A window outside of the window manager's care, with a sensor beneath it.
 class X11OverlaySurface : public QObject, public OverlaySurface
 {
