@@ -46,7 +46,7 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
                    if (m_events.escapePressed)
                        m_events.escapePressed();
                })
-    , m_stacking(connection, scheduler, [this] { raise(); })
+    , m_stacking(connection, scheduler, {m_sensor.id(), static_cast<xcb_window_t>(window.winId())})
     , m_blur(connection, static_cast<xcb_window_t>(window.winId()), [this] { backdropMayHaveChanged(); })
     , m_touchpad(connection)
     , m_gesture(scheduler,
@@ -78,7 +78,7 @@ void X11OverlaySurface::orderFront()
     // A window without content does not exist for a Wayland compositor, and nothing is drawn yet.
     if (m_connection.isXWayland())
         xcb_clear_area(m_connection, 0, static_cast<xcb_window_t>(m_window.winId()), 0, 0, 0, 0);
-    raise();
+    m_stacking.raise();
 }
 
 void X11OverlaySurface::setExtent(const Rect &extent)
@@ -112,9 +112,11 @@ void X11OverlaySurface::setSensor(const Rect &strip)
     const double ratio = m_window.devicePixelRatio();
     // Screens keep their origin in pixels; only what lies within a screen is scaled.
     const QScreen *screen = QGuiApplication::screenAt(frame.center().toPoint());
-    const QPointF origin = screen ? QPointF(screen->geometry().topLeft()) : QPointF();
+    const QRectF place = screen ? QRectF(screen->geometry()) : frame;
+    const QPointF origin = screen ? place.topLeft() : QPointF();
     const QRectF pixels(origin + (frame.topLeft() - origin) * ratio, frame.size() * ratio);
     m_sensor.setGeometry(pixels.toAlignedRect());
+    m_stacking.setScreen(QRectF(place.topLeft(), place.size() * ratio).toRect());
 }
 
 void X11OverlaySurface::setWantsKeyboard(bool wants)
@@ -289,15 +291,6 @@ void X11OverlaySurface::pointerWent()
     m_overChanged(false);
     if (m_events.exited)
         m_events.exited();
-}
-
-void X11OverlaySurface::raise()
-{
-    const uint32_t above = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(m_connection, m_sensor.id(), XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    xcb_configure_window(m_connection, static_cast<xcb_window_t>(m_window.winId()),
-                         XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    m_connection.flush();
 }
 
 void X11OverlaySurface::applyBackground()

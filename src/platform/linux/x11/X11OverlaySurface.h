@@ -50,7 +50,6 @@ private:
     bool isOurs(xcb_window_t window) const { return window == m_sensor.id() || window == m_window.winId(); }
     void pointerCame();
     void pointerWent();
-    void raise();
     /// Whether the pointer is taken by anything that is drawn; else the strip feels it.
     bool feelsContent() const;
     void applyShape();
