@@ -19,6 +19,15 @@ struct ScrollEvent
     double deltaY = 0;
 };
 
+/// A strip that reports the pointer while nothing is drawn.
+struct SurfaceSensor
+{
+    Rect strip;
+    /// A camera housing has nothing below it, so all of it takes clicks. Elsewhere the pointer is felt in the
+    /// whole strip, but all except the upper edge leaves clicks and wheel to the windows below.
+    bool isHousing = false;
+};
+
 /// An area with rounded corners, in logical coordinates.
 struct SurfaceOutline
 {
@@ -47,7 +56,7 @@ enum class SurfaceBackdrop {
 ///
 /// Three things describe it. `extent` is what can be drawn on; it is set only at the edges of a state, since
 /// a resize costs a new buffer. `outlines` are what is drawn within it; the pointer reaches whatever lies
-/// below everywhere else. `sensor` is a strip that reports the pointer even while nothing is drawn.
+/// below everywhere else. `sensor` reports the pointer even while nothing is drawn.
 class OverlaySurface
 {
 public:
@@ -55,7 +64,7 @@ public:
     {
         std::function<void()> entered;
         std::function<void()> exited;
-        /// A click on the sensor while nothing is drawn there.
+        /// A click on the sensor, where that takes clicks, while nothing is drawn there.
         std::function<void()> tapped;
         /// The same with the right button, when it goes down.
         std::function<void()> menuRequested;
@@ -75,7 +84,7 @@ public:
     /// is set again.
     virtual void setExtent(const Rect &extent) = 0;
     virtual void setOutlines(const std::vector<SurfaceOutline> &outlines) = 0;
-    virtual void setSensor(const Rect &strip) = 0;
+    virtual void setSensor(const SurfaceSensor &sensor) = 0;
     /// True while a text field of the content wants keys; false gives the keyboard back to where it was.
     virtual void setWantsKeyboard(bool wants) = 0;
     /// Asks for Escape, and for no other key, though the keyboard is elsewhere. Not every session grants it.

@@ -39,14 +39,15 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     : m_window(prepared(window))
     , m_connection(connection)
     , m_overChanged(std::move(overChanged))
-    , m_sensor(connection)
+    , m_strip(connection)
+    , m_watch(connection, scheduler, [this] { pointerWent(); })
     , m_keyboard(connection, static_cast<xcb_window_t>(window.winId()))
     , m_escape(connection,
                [this] {
                    if (m_events.escapePressed)
                        m_events.escapePressed();
                })
-    , m_stacking(connection, scheduler, {m_sensor.id(), static_cast<xcb_window_t>(window.winId())})
+    , m_stacking(connection, scheduler, {m_strip.id(), static_cast<xcb_window_t>(window.winId())})
     , m_blur(connection, static_cast<xcb_window_t>(window.winId()), [this] { backdropMayHaveChanged(); })
     , m_touchpad(connection)
     , m_gesture(scheduler,
@@ -73,7 +74,7 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
 
 void X11OverlaySurface::orderFront()
 {
-    m_sensor.show();
+    m_strip.show();
     m_window.show();
     // A window without content does not exist for a Wayland compositor, and nothing is drawn yet.
     if (m_connection.isXWayland())
@@ -94,6 +95,7 @@ void X11OverlaySurface::setOutlines(const std::vector<SurfaceOutline> &outlines)
         return;
     m_outlines = outlines;
     applyShape();
+    applyRest();
     // Nobody can see what is typed into a surface that shows nothing.
     if (!feelsContent())
         m_keyboard.giveBack();
@@ -104,19 +106,28 @@ bool X11OverlaySurface::feelsContent() const
     return std::ranges::any_of(m_outlines, &SurfaceOutline::takesPointer);
 }
 
-void X11OverlaySurface::setSensor(const Rect &strip)
+void X11OverlaySurface::setSensor(const SurfaceSensor &sensor)
 {
-    m_strip = strip;
+    m_sensor = sensor;
     applyShape();
-    const QRectF frame = unflipped(strip, primaryFrame());
+    const QRectF frame = unflipped(sensor.strip, primaryFrame());
     const double ratio = m_window.devicePixelRatio();
     // Screens keep their origin in pixels; only what lies within a screen is scaled.
     const QScreen *screen = QGuiApplication::screenAt(frame.center().toPoint());
     const QRectF place = screen ? QRectF(screen->geometry()) : frame;
     const QPointF origin = screen ? place.topLeft() : QPointF();
     const QRectF pixels(origin + (frame.topLeft() - origin) * ratio, frame.size() * ratio);
-    m_sensor.setGeometry(pixels.toAlignedRect());
+    m_strip.setPlace(pixels.toAlignedRect(), sensor.isHousing, ratio);
     m_stacking.setScreen(QRectF(place.topLeft(), place.size() * ratio).toRect());
+}
+
+Rect X11OverlaySurface::feltStrip() const
+{
+    const Rect &strip = m_sensor.strip;
+    if (!m_connection.isXWayland() || m_sensor.isHousing)
+        return strip;
+    const double height = std::min(strip.height, X11Strip::waylandEdgeHeight);
+    return {strip.x, strip.maxY() - height, strip.width, height};
 }
 
 void X11OverlaySurface::setWantsKeyboard(bool wants)
@@ -173,13 +184,18 @@ bool X11OverlaySurface::handle(const xcb_generic_event_t &event)
 {
     switch (event.response_type & ~0x80) {
     case XCB_ENTER_NOTIFY:
-        if (reinterpret_cast<const xcb_enter_notify_event_t &>(event).event == m_sensor.id())
+        if (reinterpret_cast<const xcb_enter_notify_event_t &>(event).event == m_strip.id())
             pointerCame();
         return false;
-    case XCB_LEAVE_NOTIFY:
-        if (reinterpret_cast<const xcb_leave_notify_event_t &>(event).event == m_sensor.id())
+    case XCB_LEAVE_NOTIFY: {
+        const auto &leave = reinterpret_cast<const xcb_leave_notify_event_t &>(event);
+        if (leave.event == m_strip.id()) {
+            if (leave.mode == XCB_NOTIFY_MODE_GRAB)
+                pointerGrabbed();
             pointerWent();
+        }
         return false;
+    }
     case XCB_CLIENT_MESSAGE:
         return handleDrag(reinterpret_cast<const xcb_client_message_event_t &>(event));
     case XCB_GE_GENERIC: {
@@ -191,6 +207,16 @@ bool X11OverlaySurface::handle(const xcb_generic_event_t &event)
         case XCB_INPUT_BUTTON_PRESS:
         case XCB_INPUT_BUTTON_RELEASE:
             return handlePointer(reinterpret_cast<const xcb_input_button_press_event_t &>(event));
+        case XCB_INPUT_ENTER:
+            m_grabbed = false;
+            applyRest();
+            return false;
+        case XCB_INPUT_LEAVE: {
+            const auto mode = reinterpret_cast<const xcb_input_leave_event_t &>(event).mode;
+            if (mode == XCB_INPUT_NOTIFY_MODE_GRAB || mode == XCB_INPUT_NOTIFY_MODE_PASSIVE_GRAB)
+                pointerGrabbed();
+            return false;
+        }
         case XCB_INPUT_HIERARCHY:
         case XCB_INPUT_DEVICE_CHANGED:
         case XCB_INPUT_PROPERTY:
@@ -215,10 +241,10 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
     // has it.
     if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
         m_keyboard.take();
-    const bool onSensor = event.event == m_sensor.id() || !feelsContent();
+    const bool onSensor = event.event == m_strip.id() || !feelsContent();
     if (onSensor && event.detail == XCB_BUTTON_INDEX_1) {
         if (event.event_type == XCB_INPUT_BUTTON_PRESS) {
-            m_pressed = true;
+            m_pressed = m_strip.clicked().contains(event.root_x >> 16, event.root_y >> 16);
         } else if (event.event_type == XCB_INPUT_BUTTON_RELEASE && m_pressed) {
             m_pressed = false;
             // Released elsewhere is taken back, as for any button.
@@ -234,7 +260,7 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
 
 bool X11OverlaySurface::handleDrag(const xcb_client_message_event_t &event)
 {
-    if (event.window != m_sensor.id())
+    if (event.window != m_strip.id())
         return false;
     if (event.type == m_dragEnter) {
         setDragOver(true);
@@ -246,7 +272,7 @@ bool X11OverlaySurface::handleDrag(const xcb_client_message_event_t &event)
         refusal.format = 32;
         refusal.window = event.data.data32[0];
         refusal.type = m_dragStatus;
-        refusal.data.data32[0] = m_sensor.id();
+        refusal.data.data32[0] = m_strip.id();
         xcb_send_event(m_connection, 0, refusal.window, XCB_EVENT_MASK_NO_EVENT,
                        reinterpret_cast<const char *>(&refusal));
         m_connection.flush();
@@ -269,11 +295,21 @@ xcb_window_t X11OverlaySurface::windowAtPointer() const
     return reply ? reply->child : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
+bool X11OverlaySurface::isPointerHere() const
+{
+    const auto reply = adopt(
+        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
+    return reply && (isOurs(reply->child) ||
+                     (m_strip.hasGivenWay() && m_strip.felt().contains(reply->root_x, reply->root_y)));
+}
+
 void X11OverlaySurface::pointerCame()
 {
+    m_grabbed = false;
     if (m_over)
         return;
     m_over = true;
+    applyRest();
     m_overChanged(true);
     if (m_events.entered)
         m_events.entered();
@@ -285,12 +321,27 @@ void X11OverlaySurface::pointerWent()
         return;
     // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving. XWayland
     // knows no better than this event: it would answer with the last place it has seen.
-    if (!m_connection.isXWayland() && isOurs(windowAtPointer()))
+    if (!m_connection.isXWayland() && isPointerHere())
         return;
     m_over = false;
+    m_grabbed = false;
+    applyRest();
     m_overChanged(false);
     if (m_events.exited)
         m_events.exited();
+}
+
+void X11OverlaySurface::pointerGrabbed()
+{
+    m_grabbed = true;
+    applyRest();
+}
+
+void X11OverlaySurface::applyRest()
+{
+    const bool restsInStrip = m_over && !feelsContent();
+    m_strip.setGivesWay(restsInStrip);
+    m_watch.setRunning(!m_connection.isXWayland() && (restsInStrip || (m_over && m_grabbed)));
 }
 
 void X11OverlaySurface::applyBackground()
@@ -324,7 +375,7 @@ void X11OverlaySurface::applyShape()
     // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip
     // itself.
     if (!feelsContent() && (m_connection.isXWayland() || m_dragOver))
-        felt = outlineRows({.frame = m_strip}, m_extent, m_window.devicePixelRatio());
+        felt = outlineRows({.frame = feltStrip()}, m_extent, m_window.devicePixelRatio());
     if (!feelsContent() && m_dragOver)
         drawn.insert(drawn.end(), felt.begin(), felt.end());
     const auto window = static_cast<xcb_window_t>(m_window.winId());
