@@ -7,6 +7,15 @@
 
 namespace brimlight {
 
+/// The directions in which something can be scrolled.
+struct ScrollAxes
+{
+    bool horizontal = false;
+    bool vertical = false;
+
+    bool operator==(const ScrollAxes &) const = default;
+};
+
 /// One scroll step over the surface.
 struct ScrollEvent
 {
@@ -17,6 +26,10 @@ struct ScrollEvent
     /// Points, positive when the content moves right or down.
     double deltaX = 0;
     double deltaY = 0;
+    /// The pointer, from the upper left corner of the surface, y downwards.
+    Point position;
+    /// What of the content can be scrolled there; told when the gesture begins.
+    ScrollAxes scrollable;
 };
 
 /// A strip that reports the pointer while nothing is drawn.
@@ -70,7 +83,7 @@ public:
         std::function<void()> menuRequested;
         /// Escape was pressed while it is watched for.
         std::function<void()> escapePressed;
-        /// Returns true when the event is used up and must not reach the content.
+        /// Returns true when the event is used up; else it reaches the content as a Qt wheel event.
         std::function<bool(const ScrollEvent &)> scrolled;
         /// `backdrop` answers differently from now on.
         std::function<void()> backdropChanged;
@@ -85,6 +98,9 @@ public:
     virtual void setExtent(const Rect &extent) = 0;
     virtual void setOutlines(const std::vector<SurfaceOutline> &outlines) = 0;
     virtual void setSensor(const SurfaceSensor &sensor) = 0;
+    /// Who tells what of the content can be scrolled at a point of the surface. Asked at the beginning of
+    /// each gesture; until it is set nothing can.
+    virtual void setScrollable(std::function<ScrollAxes(Point)> scrollableAt) = 0;
     /// True while a text field of the content wants keys; false gives the keyboard back to where it was.
     virtual void setWantsKeyboard(bool wants) = 0;
     /// Asks for Escape, and for no other key, though the keyboard is elsewhere. Not every session grants it.

@@ -53,6 +53,7 @@ public:
     }
     void setOutlines(const std::vector<SurfaceOutline> &) override {}
     void setSensor(const SurfaceSensor &) override {}
+    void setScrollable(std::function<ScrollAxes(Point)>) override {}
     void setWantsKeyboard(bool) override {}
     void setWatchesEscape(bool) override {}
     SurfaceBackdrop backdrop() const override { return SurfaceBackdrop::translucent; }

@@ -50,8 +50,8 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
     , m_stacking(connection, scheduler, {m_strip.id(), static_cast<xcb_window_t>(window.winId())})
     , m_blur(connection, static_cast<xcb_window_t>(window.winId()), [this] { backdropMayHaveChanged(); })
     , m_touchpad(connection)
-    , m_gesture(scheduler,
-                [this](const ScrollEvent &event) { return m_events.scrolled && m_events.scrolled(event); })
+    , m_gesture(scheduler, [this](const ScrollEvent &event) { scrolled(event); })
+    , m_wheel(window)
     , m_dragEnter(connection.atom("XdndEnter"))
     , m_dragPosition(connection.atom("XdndPosition"))
     , m_dragLeave(connection.atom("XdndLeave"))
@@ -93,9 +93,14 @@ void X11OverlaySurface::setOutlines(const std::vector<SurfaceOutline> &outlines)
 {
     if (outlines == m_outlines)
         return;
+    const bool feltContent = feelsContent();
     m_outlines = outlines;
     applyShape();
-    applyRest();
+    if (feelsContent() != feltContent) {
+        // What was scrolled until now went elsewhere.
+        m_touchpad.forgetPositions();
+        applyRest();
+    }
     // Nobody can see what is typed into a surface that shows nothing.
     if (!feelsContent())
         m_keyboard.giveBack();
@@ -235,8 +240,12 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
 {
     if (!isOurs(event.event))
         return false;
-    if (const auto step = m_touchpad.read(event, !m_gesture.isUnderWay()))
-        return m_gesture.step(step->deltaX, step->deltaY);
+    if (const auto step = m_touchpad.read(event)) {
+        constexpr double fixedPoint = 65536;
+        const double scale = fixedPoint * m_window.devicePixelRatio();
+        m_gesture.step(step->deltaX, step->deltaY, {event.event_x / scale, event.event_y / scale});
+        return true;
+    }
     // Qt takes a while to tell the content that the keyboard has gone elsewhere; until then a field thinks it
     // has it.
     if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
@@ -256,6 +265,14 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
         m_events.menuRequested)
         m_events.menuRequested();
     return onSensor;
+}
+
+void X11OverlaySurface::scrolled(ScrollEvent event)
+{
+    if (event.phase == ScrollEvent::Phase::began && feelsContent() && m_scrollableAt)
+        event.scrollable = m_scrollableAt(event.position);
+    if (!m_events.scrolled || !m_events.scrolled(event))
+        m_wheel.deliver(event);
 }
 
 bool X11OverlaySurface::handleDrag(const xcb_client_message_event_t &event)
@@ -309,6 +326,7 @@ void X11OverlaySurface::pointerCame()
     if (m_over)
         return;
     m_over = true;
+    m_touchpad.forgetPositions();
     applyRest();
     m_overChanged(true);
     if (m_events.entered)
@@ -334,6 +352,7 @@ void X11OverlaySurface::pointerWent()
 void X11OverlaySurface::pointerGrabbed()
 {
     m_grabbed = true;
+    m_touchpad.forgetPositions();
     applyRest();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/OverlaySurface.h"
+#include "platform/linux/x11/ContentWheel.h"
 #include "platform/linux/x11/ScrollGesture.h"
 #include "platform/linux/x11/TouchpadScroll.h"
 #include "platform/linux/x11/X11BlurBehind.h"
@@ -32,6 +33,7 @@ public:
     void setExtent(const Rect &extent) override;
     void setOutlines(const std::vector<SurfaceOutline> &outlines) override;
     void setSensor(const SurfaceSensor &sensor) override;
+    void setScrollable(std::function<ScrollAxes(Point)> at) override { m_scrollableAt = std::move(at); }
     void setWantsKeyboard(bool wants) override;
     void setWatchesEscape(bool watches) override { m_escape.setWatched(watches); }
     SurfaceBackdrop backdrop() const override;
@@ -42,6 +44,7 @@ protected:
 private:
     bool handle(const xcb_generic_event_t &event);
     bool handlePointer(const xcb_input_button_press_event_t &event);
+    void scrolled(ScrollEvent event);
     /// Something is dragged over the sensor. That can take nothing: it gives way to the drawn window, which
     /// is what the source finds at its next motion, and Qt does the rest.
     bool handleDrag(const xcb_client_message_event_t &event);
@@ -71,6 +74,7 @@ private:
     X11Connection &m_connection;
     std::function<void(bool)> m_overChanged;
     Events m_events;
+    std::function<ScrollAxes(Point)> m_scrollableAt;
     X11Strip m_strip;
     X11PointerWatch m_watch;
     X11KeyboardFocus m_keyboard;
@@ -80,6 +84,7 @@ private:
     SurfaceBackdrop m_backdrop = SurfaceBackdrop::opaque;
     TouchpadScroll m_touchpad;
     ScrollGesture m_gesture;
+    ContentWheel m_wheel;
     Rect m_extent;
     SurfaceSensor m_sensor;
     std::vector<SurfaceOutline> m_outlines;
