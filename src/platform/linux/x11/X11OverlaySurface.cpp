@@ -251,9 +251,10 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
     if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
         m_keyboard.take();
     const bool onSensor = event.event == m_strip.id() || !feelsContent();
+    const bool takesClick = m_strip.clicked().contains(event.root_x >> 16, event.root_y >> 16);
     if (onSensor && event.detail == XCB_BUTTON_INDEX_1) {
         if (event.event_type == XCB_INPUT_BUTTON_PRESS) {
-            m_pressed = m_strip.clicked().contains(event.root_x >> 16, event.root_y >> 16);
+            m_pressed = takesClick;
         } else if (event.event_type == XCB_INPUT_BUTTON_RELEASE && m_pressed) {
             m_pressed = false;
             // Released elsewhere is taken back, as for any button.
@@ -261,8 +262,8 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
                 m_events.tapped();
         }
     }
-    if (onSensor && event.event_type == XCB_INPUT_BUTTON_PRESS && event.detail == XCB_BUTTON_INDEX_3 &&
-        m_events.menuRequested)
+    if (onSensor && takesClick && event.event_type == XCB_INPUT_BUTTON_PRESS &&
+        event.detail == XCB_BUTTON_INDEX_3 && m_events.menuRequested)
         m_events.menuRequested();
     return onSensor;
 }
