@@ -34,6 +34,8 @@ FocusScope {
     Flickable {
         id: flickable
 
+        readonly property bool scrollsByWheel: true
+
         // Keeps the caret in sight.
         function follow(caret: rect): void {
             if (contentY >= caret.y)

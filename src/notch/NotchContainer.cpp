@@ -1,5 +1,7 @@
 #include "notch/NotchContainer.h"
 
+#include <cmath>
+
 namespace brimlight {
 namespace {
 
@@ -24,24 +26,50 @@ NotchContainer::NotchContainer(OverlaySurface &surface)
 
 bool NotchContainer::scrolled(const ScrollEvent &event)
 {
-    const SwipeRecognizer::Outcome outcome = m_swipes.handle(event);
-    if (outcome.swipe) {
-        switch (*outcome.swipe) {
-        case SwipeRecognizer::Swipe::left:
-            call(m_callbacks.onSwipeLeft);
-            break;
-        case SwipeRecognizer::Swipe::right:
-            call(m_callbacks.onSwipeRight);
-            break;
-        case SwipeRecognizer::Swipe::up:
-            call(m_callbacks.onSwipeUp);
-            break;
-        case SwipeRecognizer::Swipe::down:
-            call(m_callbacks.onSwipeDown);
-            break;
-        }
+    if (event.phase == ScrollEvent::Phase::began) {
+        m_gesture = Gesture::undecided;
+        m_scrollable = event.scrollable;
     }
+    if (m_gesture == Gesture::undecided)
+        decide(event);
+    const SwipeRecognizer::Outcome outcome = m_swipes.handle(event);
+    if (m_gesture == Gesture::scrolls)
+        return false;
+    if (outcome.swipe)
+        swipe(*outcome.swipe);
     return outcome.consumed;
+}
+
+void NotchContainer::decide(const ScrollEvent &event)
+{
+    const double horizontal = std::abs(event.deltaX);
+    const double vertical = std::abs(event.deltaY);
+    if (horizontal == 0 && vertical == 0)
+        return;
+    const bool scrolls = horizontal > vertical ? m_scrollable.horizontal : m_scrollable.vertical;
+    m_gesture = scrolls ? Gesture::scrolls : Gesture::swipes;
+}
+
+void NotchContainer::swipe(SwipeRecognizer::Swipe swipe)
+{
+    const bool isHorizontal = swipe == SwipeRecognizer::Swipe::left || swipe == SwipeRecognizer::Swipe::right;
+    // The fingers have wandered off into a direction that scrolls here: neither was meant.
+    if (isHorizontal ? m_scrollable.horizontal : m_scrollable.vertical)
+        return;
+    switch (swipe) {
+    case SwipeRecognizer::Swipe::left:
+        call(m_callbacks.onSwipeLeft);
+        break;
+    case SwipeRecognizer::Swipe::right:
+        call(m_callbacks.onSwipeRight);
+        break;
+    case SwipeRecognizer::Swipe::up:
+        call(m_callbacks.onSwipeUp);
+        break;
+    case SwipeRecognizer::Swipe::down:
+        call(m_callbacks.onSwipeDown);
+        break;
+    }
 }
 
 } // namespace brimlight

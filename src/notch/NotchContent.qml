@@ -213,6 +213,8 @@ Item {
         id: page
 
         readonly property bool wanted: root.viewModel.onboardingCompleted && !root.viewModel.showSettings
+        // Its drags are those of the tiles.
+        readonly property bool scrollsByWheel: !root.viewModel.optionsOpen
         property real presence: root.viewModel.showSettings ? 0 : 1
 
         anchors.fill: parent

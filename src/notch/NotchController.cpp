@@ -285,6 +285,7 @@ void NotchController::reposition()
     m_viewModel.setGeometry(NotchGeometry::forScreen(screen));
     const Rect frame = frameFor(m_viewModel.isExpanded(), *screen);
     m_panel.setContentVisible(m_viewModel.isExpanded());
+    m_panel.setOverHousing(m_viewModel.geometry().hasNotch);
     m_panel.setFrame(frame, false);
     const NotchGeometry &geometry = m_viewModel.geometry();
     m_log.trace(QStringLiteral("Repositioned on \"%1\": hasNotch=%2 collapsed=%3x%4 frame=%5")

@@ -66,7 +66,7 @@ void NotchPanel::setFrame(const Rect &frame, bool animate)
         m_openHeight = frame.height;
     m_animation.stop();
     if (!m_contentVisible)
-        m_surface.setSensor(m_frame);
+        m_surface.setSensor({.strip = m_frame, .isHousing = m_isOverHousing});
     if (jump) {
         const Rect before = m_extent;
         settle();

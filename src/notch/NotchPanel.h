@@ -37,6 +37,9 @@ public:
     const Rect &frame() const { return m_frame; }
     /// Moves the panel at once; nothing is drawn while `content` is false and the panel is at rest.
     void setFrame(const Rect &frame, bool animate);
+    /// Whether the collapsed panel lies on a camera housing; false at first. Goes before the frame that
+    /// belongs to it.
+    void setOverHousing(bool over) { m_isOverHousing = over; }
     /// Whether the panel shows anything. Goes before the frame that belongs to it.
     void setContentVisible(bool visible) { m_contentVisible = visible; }
     /// Whether the desktop behind the pane is to be blurred where that is on offer; true at first.
@@ -103,6 +106,7 @@ private:
     QVariantAnimation m_animation;
     bool m_contentVisible = false;
     bool m_isDrawn = false;
+    bool m_isOverHousing = false;
     bool m_blursBehind = true;
     bool m_hudShown = false;
     QRectF m_hud;

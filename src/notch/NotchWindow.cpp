@@ -58,6 +58,9 @@ NotchWindow::NotchWindow(const SurfaceFactory &makeSurface)
     m_view.setTitle(QStringLiteral("Brimlight"));
     m_view.setResizeMode(QQuickView::SizeRootObjectToView);
     m_surface = makeSurface(m_view);
+    m_surface->setScrollable([this](Point position) {
+        return m_scrollable.listenAt({position.x, position.y});
+    });
     connect(&m_view, &QQuickWindow::activeFocusItemChanged, this, &NotchWindow::followFocus);
     // When somebody else has taken the keyboard, the control is left, so that the next click on a text field
     // asks for it again.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/UiTranslator.h"
+#include "notch/ScrollableContent.h"
 #include "platform/OverlaySurface.h"
 
 #include <QQmlEngine>
@@ -39,6 +40,7 @@ private:
     QQmlEngine m_engine;
     std::unique_ptr<UiTranslator> m_translator;
     QQuickView m_view;
+    ScrollableContent m_scrollable{*m_view.contentItem()};
     std::unique_ptr<OverlaySurface> m_surface;
 };
 

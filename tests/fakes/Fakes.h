@@ -243,7 +243,8 @@ public:
     void orderFront() override { isFront = true; }
     void setExtent(const Rect &newExtent) override { extents.push_back(newExtent); }
     void setOutlines(const std::vector<SurfaceOutline> &newOutlines) override { outlines = newOutlines; }
-    void setSensor(const Rect &strip) override { sensor = strip; }
+    void setSensor(const SurfaceSensor &newSensor) override { sensor = newSensor; }
+    void setScrollable(std::function<ScrollAxes(Point)> at) override { scrollableAt = std::move(at); }
     void setWantsKeyboard(bool wants) override { wantsKeyboard = wants; }
     void setWatchesEscape(bool watches) override { watchesEscape = watches; }
     SurfaceBackdrop backdrop() const override { return currentBackdrop; }
@@ -254,7 +255,8 @@ public:
     bool isFront = false;
     std::vector<Rect> extents;
     std::vector<SurfaceOutline> outlines;
-    Rect sensor;
+    SurfaceSensor sensor;
+    std::function<ScrollAxes(Point)> scrollableAt;
     bool wantsKeyboard = false;
     bool watchesEscape = false;
     SurfaceBackdrop currentBackdrop = SurfaceBackdrop::opaque;

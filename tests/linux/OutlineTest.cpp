@@ -1,4 +1,4 @@
-#include "platform/linux/x11/X11OverlaySurface.h"
+#include "platform/linux/x11/OutlineRows.h"
 
 #include <gtest/gtest.h>
 

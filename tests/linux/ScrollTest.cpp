@@ -26,19 +26,19 @@ protected:
 
     ManualScheduler scheduler;
     std::vector<ScrollEvent> events;
-    ScrollGesture gesture{scheduler, [this](const ScrollEvent &event) {
-                              events.push_back(event);
-                              return true;
-                          }};
+    void step(double deltaX, double deltaY) { gesture.step(deltaX, deltaY, place); }
+
+    static constexpr Point place{40, 60};
+    ScrollGesture gesture{scheduler, [this](const ScrollEvent &event) { events.push_back(event); }};
 };
 
 TEST_F(Gesture, BeginsChangesAndEndsAtTheSilence)
 {
-    EXPECT_TRUE(gesture.step(1, 2));
+    step(1, 2);
     scheduler.advance(149ms);
-    gesture.step(3, 4);
+    step(3, 4);
     scheduler.advance(149ms);
-    gesture.step(5, 6);
+    step(5, 6);
     EXPECT_EQ(phases(), (std::vector{Phase::began, Phase::changed, Phase::changed}));
     scheduler.advance(149ms);
     EXPECT_EQ(events.size(), 3u);
@@ -46,19 +46,21 @@ TEST_F(Gesture, BeginsChangesAndEndsAtTheSilence)
     EXPECT_EQ(phases().back(), Phase::ended);
     EXPECT_EQ(events[2].deltaX, 5);
     EXPECT_EQ(events[2].deltaY, 6);
+    for (const ScrollEvent &event : events)
+        EXPECT_EQ(event.position, place);
 }
 
 TEST_F(Gesture, ANewOneBeginsAfterTheSilence)
 {
-    gesture.step(1, 0);
+    step(1, 0);
     scheduler.advance(150ms);
-    gesture.step(1, 0);
+    step(1, 0);
     EXPECT_EQ(phases(), (std::vector{Phase::began, Phase::ended, Phase::began}));
 }
 
 TEST_F(Gesture, NothingIsPendingAfterTheEnd)
 {
-    gesture.step(1, 0);
+    step(1, 0);
     scheduler.advance(1s);
     EXPECT_EQ(scheduler.pendingCount(), 0);
 }
@@ -104,10 +106,9 @@ private:
 class Axes : public testing::Test
 {
 protected:
-    std::optional<ScrollStep> read(const std::vector<std::pair<uint16_t, double>> &valuators,
-                                   bool fresh = false)
+    std::optional<ScrollStep> read(const std::vector<std::pair<uint16_t, double>> &valuators)
     {
-        return scrollStep(MotionEvent(valuators).event(), source, fresh);
+        return scrollStep(MotionEvent(valuators).event(), source);
     }
 
     ScrollSource source{.isTouchpad = true,
@@ -138,10 +139,11 @@ TEST_F(Axes, ScaleByTheIncrementOfTheDevice)
     EXPECT_DOUBLE_EQ(read({{3, 240}})->deltaY, 30);
 }
 
-TEST_F(Axes, AFreshStartForgetsWhatOtherWindowsScrolled)
+TEST_F(Axes, ForgottenPositionsAreThoseThatOtherWindowsScrolled)
 {
     read({{3, 0}});
-    EXPECT_DOUBLE_EQ(read({{3, 5000}}, true)->deltaY, 0);
+    source.forgetPositions();
+    EXPECT_DOUBLE_EQ(read({{3, 5000}})->deltaY, 0);
     EXPECT_DOUBLE_EQ(read({{3, 4985}})->deltaY, 15);
 }
 

@@ -25,6 +25,7 @@ TEST_F(Placing, ANotchedScreenIsPreferredWhereverItStands)
     EXPECT_EQ(lines().first(), QStringLiteral("Repositioned on \"Built-in\": hasNotch=true collapsed=192x38 "
                                               "frame=(2100,944 192x38)"));
     EXPECT_TRUE(model().geometry().hasNotch);
+    EXPECT_TRUE(surface().sensor.isHousing);
 }
 
 TEST_F(Placing, AScreenChangeMovesTheCollapsedPanelOneTurnLater)
@@ -35,7 +36,8 @@ TEST_F(Placing, AScreenChangeMovesTheCollapsedPanelOneTurnLater)
     EXPECT_EQ(panel().frame(), (Rect{620, 868, 200, 32}));
     scheduler.runPosted();
     EXPECT_EQ(panel().frame(), (Rect{860, 1048, 200, 32}));
-    EXPECT_EQ(surface().sensor, panel().frame());
+    EXPECT_EQ(surface().sensor.strip, panel().frame());
+    EXPECT_FALSE(surface().sensor.isHousing);
     EXPECT_EQ(surface().extent(), panel().frame());
 }
 
@@ -54,7 +56,7 @@ TEST_F(Placing, AScreenChangeMovesTheOpenPanelAtOnce)
     EXPECT_EQ(surface().outlines.front().frame, panel().frame());
     controller->requestClose();
     panel().finishAnimation();
-    EXPECT_EQ(surface().sensor, (Rect{860, 1048, 200, 32}));
+    EXPECT_EQ(surface().sensor.strip, (Rect{860, 1048, 200, 32}));
 }
 
 TEST_F(Placing, AScreenListThatEmptiesAndFillsAgainIsSurvived)

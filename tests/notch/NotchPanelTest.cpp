@@ -39,7 +39,7 @@ TEST_F(Panel, CollapsedAtRestNothingIsDrawnAndTheStripFeels)
     EXPECT_FALSE(panel.isDrawn());
     EXPECT_TRUE(surface.outlines.empty());
     EXPECT_EQ(surface.extent(), strip);
-    EXPECT_EQ(surface.sensor, strip);
+    EXPECT_EQ(surface.sensor.strip, strip);
 }
 
 TEST_F(Panel, TheLogicalFrameJumpsWhileTheDrawnOneFollows)

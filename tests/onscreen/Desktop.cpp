@@ -5,7 +5,11 @@ namespace brimlight::onscreen {
 std::ostream &operator<<(std::ostream &stream, const Desktop &desktop)
 {
     stream << (desktop.windowManager ? desktop.windowManager : "none");
-    return desktop.isComposited ? stream << "_composited" : stream;
+    if (desktop.isComposited)
+        stream << "_composited";
+    if (desktop.hasTouchpad)
+        stream << "_touchpad";
+    return stream;
 }
 
 std::string nameOf(const testing::TestParamInfo<Desktop> &info)

@@ -12,6 +12,8 @@ struct Desktop
     /// The name of the executable; null for none.
     const char *windowManager = nullptr;
     bool isComposited = false;
+    /// The server has real input devices: a touchpad, see TouchpadDevice.
+    bool hasTouchpad = false;
 };
 
 std::ostream &operator<<(std::ostream &stream, const Desktop &desktop);

@@ -83,7 +83,7 @@ TEST_P(DropInSight, ElsewhereLeavesNoTrace)
     source.dragTo(away());
     EXPECT_FALSE(source.drop());
     EXPECT_TRUE(waitUntil([&] { return changed(bare, strip) == 0; }));
-    hand.clickAt(onStrip());
+    hand.clickAt(onEdge());
     EXPECT_TRUE(waitForOpen()) << "and feels the hand again";
 }
 

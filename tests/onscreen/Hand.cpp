@@ -70,7 +70,7 @@ void Hand::typeKeyWith(uint32_t modifier, uint32_t keysym) const
     m_x.flush();
 }
 
-void Hand::useTouchpad() const
+void Hand::useTouchpad(const char *device) const
 {
     // Input properties need the version to be agreed on first.
     owned(xcb_input_xi_query_version_reply(m_x, xcb_input_xi_query_version(m_x, 2, 2), nullptr));
@@ -80,7 +80,7 @@ void Hand::useTouchpad() const
          xcb_input_xi_device_info_next(&it)) {
         const QByteArray name(xcb_input_xi_device_info_name(it.data),
                               xcb_input_xi_device_info_name_length(it.data));
-        if (name != "Virtual core XTEST pointer")
+        if (name != device)
             continue;
         const uint8_t enabled = 1;
         xcb_input_xi_change_property(m_x, it.data->deviceid, XCB_PROP_MODE_REPLACE, 8,
@@ -88,7 +88,7 @@ void Hand::useTouchpad() const
         m_x.sync();
         return;
     }
-    throw std::runtime_error("no XTEST pointer");
+    throw std::runtime_error(std::string("no such device: ") + device);
 }
 
 void Hand::fake(uint8_t type, uint8_t detail, QPoint point, milliseconds after) const

@@ -30,8 +30,8 @@ public:
     /// While the other key is held.
     void typeKeyWith(uint32_t modifier, uint32_t keysym) const;
 
-    /// From now on the device that this hand moves passes for a touchpad.
-    void useTouchpad() const;
+    /// From now on a device, by default the one that this hand moves, passes for a touchpad.
+    void useTouchpad(const char *device = "Virtual core XTEST pointer") const;
 
 private:
     void fake(uint8_t type, uint8_t detail, QPoint point = {}, milliseconds after = milliseconds(0)) const;

@@ -75,7 +75,7 @@ std::optional<QRect> OnScreenTest::waitForOpen()
 std::optional<QRect> OnScreenTest::openByTap()
 {
     const QImage before = x.screenshot();
-    hand.clickAt(onStrip());
+    hand.clickAt(onEdge());
     const auto frame = waitForOpen();
     if (!frame || !waitUntil([&] { return isSeen(*frame, before); }))
         return std::nullopt;
@@ -128,6 +128,16 @@ bool OnScreenTest::isSeen(const QRect &frame, const QImage &before) const
     QImage blank = now;
     blank.fill(now.pixel(0, 0));
     return now != blank && changed(before, inner) > 0.99;
+}
+
+QRect OnScreenTest::sensor() const
+{
+    for (const WindowInfo &window : x.windows()) {
+        if (window.isInputOnly && window.isViewable && window.frame.left() == strip.left() &&
+            window.frame.width() == strip.width())
+            return window.frame;
+    }
+    return {};
 }
 
 std::optional<WindowInfo> OnScreenTest::programWindowAt(QPoint point) const

@@ -54,6 +54,16 @@ protected:
     /// A place that is far from the panel in every state.
     QPoint away() const { return {x.size().width() / 2, x.size().height() - 60}; }
     QPoint onStrip() const { return strip.center(); }
+    /// Where a click is the strip's and not the window's below.
+    QPoint onEdge() const { return {strip.center().x(), strip.top()}; }
+    /// Where the window lies that feels the pointer while nothing is drawn; empty when it is not on the
+    /// strip.
+    QRect sensor() const;
+    /// It gives way to what lies below, when it has not done so yet.
+    bool givesWay() const
+    {
+        return waitUntil([this] { return sensor().height() < strip.height(); });
+    }
 
     static constexpr const char *opened = "^Notch EXPANDED frame=(\\(.*\\))$";
     static constexpr const char *closed = "^Notch COLLAPSED frame=(\\(.*\\))$";

@@ -143,7 +143,7 @@ TEST_P(OutlineAlone, NeverFlashesInBlackWhileItOpens)
     constexpr QRgb black = qRgb(0, 0, 0);
     const QRect area = surroundings();
     int most = 0;
-    hand.clickAt(onStrip());
+    hand.clickAt(onEdge());
     const auto begun = Clock::now();
     while (Clock::now() - begun < bounded) {
         const QImage now = x.screenshot();

@@ -25,7 +25,7 @@ INSTANTIATE_TEST_SUITE_P(OnScreen, Swipe, testing::ValuesIn(anyDesktop), nameOf)
 TEST_P(Swipe, DownOpensAndPins)
 {
     hand.useTouchpad();
-    hand.moveTo(onStrip());
+    hand.moveTo(onEdge());
     hand.scroll(up, 3);
     ASSERT_TRUE(waitForOpen());
     hand.moveTo(away());
@@ -35,7 +35,7 @@ TEST_P(Swipe, DownOpensAndPins)
 TEST_P(Swipe, TheFirstStepOnlyBeginsTheGesture)
 {
     hand.useTouchpad();
-    hand.moveTo(onStrip());
+    hand.moveTo(onEdge());
     hand.scroll(up, 2);
     EXPECT_TRUE(staysShut());
     hand.scroll(up, 3);
@@ -55,7 +55,7 @@ TEST_P(Swipe, UpClosesAPinnedPanel)
 TEST_P(Swipe, OneGestureSwipesOnce)
 {
     hand.useTouchpad();
-    hand.moveTo(onStrip());
+    hand.moveTo(onEdge());
     hand.scroll(up, 4);
     hand.scroll(down, 8);
     EXPECT_TRUE(waitForOpen());
@@ -64,7 +64,7 @@ TEST_P(Swipe, OneGestureSwipesOnce)
 
 TEST_P(Swipe, ATouchpadThatIsPluggedInLaterCounts)
 {
-    hand.moveTo(onStrip());
+    hand.moveTo(onEdge());
     hand.scroll(up, 6);
     ASSERT_TRUE(staysShut());
     hand.useTouchpad();
@@ -74,7 +74,7 @@ TEST_P(Swipe, ATouchpadThatIsPluggedInLaterCounts)
 
 TEST_P(Swipe, AMouseWheelNeverSwipes)
 {
-    hand.moveTo(onStrip());
+    hand.moveTo(onEdge());
     hand.scroll(up, 10);
     EXPECT_TRUE(staysShut());
     const auto frame = openByTap();

@@ -15,9 +15,9 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(OnScreen, Tap, testing::ValuesIn(anyDesktop), nameOf);
 
-TEST_P(Tap, OnTheStripPins)
+TEST_P(Tap, OnTheStripsEdgePins)
 {
-    hand.clickAt(onStrip());
+    hand.clickAt(onEdge());
     ASSERT_TRUE(waitForOpen());
     EXPECT_TRUE(panel->waitForLine(u"^Tap toggle pin -> pinned=true$"_s));
     hand.moveTo(away());
@@ -37,9 +37,9 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(OnScreen, TapAlone, testing::ValuesIn(anyDesktop), nameOf);
 
-TEST_P(TapAlone, OnTheStripOpens)
+TEST_P(TapAlone, OnTheStripsEdgeOpens)
 {
-    hand.clickAt(onStrip());
+    hand.clickAt(onEdge());
     EXPECT_TRUE(waitForOpen());
 }
 
@@ -71,7 +71,7 @@ TEST_P(Tap, BesideTheStripReachesTheWindowBelow)
                       {{strip.left() - 2, 10}, {strip.right() + 2, 10}, {onStrip().x(), strip.bottom() + 2}});
 }
 
-TEST_P(Tap, OnTheStripDoesNotReachTheWindowBelow)
+TEST_P(Tap, OnTheStripsEdgeDoesNotReachTheWindowBelow)
 {
     Victim victim(session.display(), Victim::Kind::plain);
     ASSERT_TRUE(openByTap());

@@ -75,7 +75,7 @@ int main(int argc, char **argv)
     const Rect frame{screen.frame.midX() - 200, screen.frame.maxY() - 200, 400, 200};
     window.surface().setExtent(frame);
     window.surface().setOutlines({{.frame = frame}});
-    window.surface().setSensor(frame);
+    window.surface().setSensor({.strip = frame});
     window.surface().orderFront();
     platform.ports().unixSignals.install(SIGUSR2, [&] { window.surface().setOutlines({}); });
     say(QStringLiteral("Repositioned on \"host\": hasNotch=false collapsed=400x200 frame=(%1,%2 400x200)")

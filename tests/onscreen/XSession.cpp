@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 XSession::XSession(const Desktop &desktop, QSize size)
 {
     makeHome();
-    startServer(size);
+    startServer(desktop, size);
     if (desktop.windowManager)
         startWindowManager(QString::fromLatin1(desktop.windowManager));
     m_x->paintWallpaper();
@@ -45,12 +45,13 @@ void XSession::makeHome()
     m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + home.filePath(u"run/no-bus"_s));
 }
 
-void XSession::startServer(QSize size)
+void XSession::startServer(const Desktop &desktop, QSize size)
 {
+    QStringList arguments{u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-noreset"_s};
     const QString screen = u"%1x%2x24"_s.arg(size.width()).arg(size.height());
-    const QStringList arguments{u"-displayfd"_s, u"1"_s,         u"-screen"_s, u"0"_s,
-                                screen,          u"-nolisten"_s, u"tcp"_s,     u"-noreset"_s};
-    m_server = std::make_unique<ChildProcess>(u"Xvfb"_s, arguments, m_environment);
+    arguments += desktop.hasTouchpad ? serverWithTouchpad(size) : QStringList{u"-screen"_s, u"0"_s, screen};
+    const QString name = desktop.hasTouchpad ? u"Xorg"_s : u"Xvfb"_s;
+    m_server = std::make_unique<ChildProcess>(name, arguments, m_environment);
     QByteArray number;
     waitUntil([&] {
         m_server->waitForReadyRead(50);
@@ -58,10 +59,65 @@ void XSession::startServer(QSize size)
         return number.endsWith('\n') || m_server->state() == QProcess::NotRunning;
     });
     if (!number.endsWith('\n'))
-        throw std::runtime_error("Xvfb did not start: " + m_server->readAllStandardError().toStdString());
+        throw std::runtime_error(name.toStdString() +
+                                 " did not start: " + m_server->readAllStandardError().toStdString());
     m_display = ':' + number.trimmed();
     m_environment.insert(u"DISPLAY"_s, QString::fromLatin1(m_display));
     m_x = std::make_unique<XClient>(m_display);
+}
+
+QStringList XSession::serverWithTouchpad(QSize size) const
+{
+    const QByteArray configuration = R"(
+Section "ServerFlags"
+    Option "AutoAddDevices" "false"
+EndSection
+Section "InputDevice"
+    Identifier "touchpad"
+    Driver "inputtest"
+    Option "DeviceType" "Pointer"
+    Option "SocketPath" "%SOCKET%"
+    Option "CorePointer" "true"
+EndSection
+Section "Device"
+    Identifier "memory"
+    Driver "dummy"
+    VideoRam 32768
+EndSection
+Section "Monitor"
+    Identifier "monitor"
+    HorizSync 5-1000
+    VertRefresh 5-200
+    Modeline "whole" 120 %W% %W1% %W2% %W3% %H% %H1% %H2% %H3%
+EndSection
+Section "Screen"
+    Identifier "screen"
+    Device "memory"
+    Monitor "monitor"
+    DefaultDepth 24
+    SubSection "Display"
+        Modes "whole"
+        Virtual %W% %H%
+    EndSubSection
+EndSection
+Section "ServerLayout"
+    Identifier "layout"
+    Screen "screen"
+    InputDevice "touchpad"
+EndSection
+)";
+    QByteArray filled = configuration;
+    filled.replace("%SOCKET%", touchpadSocket().toUtf8());
+    const std::pair<QByteArray, int> lengths[] = {{"W", size.width()}, {"H", size.height()}};
+    for (const auto &[letter, length] : lengths) {
+        filled.replace('%' + letter + '%', QByteArray::number(length));
+        for (int i = 1; i <= 3; ++i)
+            filled.replace('%' + letter + QByteArray::number(i) + '%', QByteArray::number(length + 40 * i));
+    }
+    writeConfigFile(u"xorg.conf"_s, filled);
+    // It must not touch the console of whoever runs the test.
+    return {u"-config"_s,   configFile(u"xorg.conf"_s), u"-logfile"_s, m_home.filePath(u"xorg.log"_s),
+            u"-sharevts"_s, u"-novtswitch"_s,           u"-keeptty"_s};
 }
 
 void XSession::startWindowManager(const QString &name)

@@ -16,6 +16,8 @@ public:
     /// Returns when the window manager (and compositor) are at work; throws when they are not.
     explicit XSession(const Desktop &desktop, QSize size = {1512, 982});
 
+    /// Where a desktop's touchpad is to be moved.
+    QString touchpadSocket() const { return m_home.filePath(QStringLiteral("touchpad")); }
     const QByteArray &display() const { return m_display; }
     XClient &x() { return *m_x; }
     /// For programs that are to run in this session.
@@ -30,7 +32,9 @@ public:
 
 private:
     void makeHome();
-    void startServer(QSize size);
+    void startServer(const Desktop &desktop, QSize size);
+    /// A server with input drivers, which draws into memory.
+    QStringList serverWithTouchpad(QSize size) const;
     void startWindowManager(const QString &name);
 
     QTemporaryDir m_home;

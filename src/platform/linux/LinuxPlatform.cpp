@@ -52,7 +52,8 @@ public:
         m_window.resize(QSizeF(extent.width, extent.height).toSize());
     }
     void setOutlines(const std::vector<SurfaceOutline> &) override {}
-    void setSensor(const Rect &) override {}
+    void setSensor(const SurfaceSensor &) override {}
+    void setScrollable(std::function<ScrollAxes(Point)>) override {}
     void setWantsKeyboard(bool) override {}
     void setWatchesEscape(bool) override {}
     SurfaceBackdrop backdrop() const override { return SurfaceBackdrop::translucent; }

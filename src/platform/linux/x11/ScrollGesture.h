@@ -11,7 +11,7 @@ class ScrollGesture
 {
 public:
     static constexpr std::chrono::milliseconds silence{150};
-    using Deliver = std::function<bool(const ScrollEvent &)>;
+    using Deliver = std::function<void(const ScrollEvent &)>;
 
     ScrollGesture(Scheduler &scheduler, Deliver deliver)
         : m_scheduler(scheduler)
@@ -19,9 +19,8 @@ public:
     {
     }
 
-    /// One step in points, positive when the content moves right or down. True when it was used up.
-    bool step(double deltaX, double deltaY);
-    bool isUnderWay() const { return m_end.isPending(); }
+    /// One step in points, positive when the content moves right or down, with the pointer at `position`.
+    void step(double deltaX, double deltaY, Point position);
 
 private:
     Scheduler &m_scheduler;

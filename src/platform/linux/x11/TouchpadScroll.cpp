@@ -31,15 +31,14 @@ std::optional<double> valuatorValue(const xcb_input_button_press_event_t &event,
 }
 
 /// Points by which one axis moved; absent when the event does not touch it.
-std::optional<double> advance(std::optional<ScrollAxis> &axis, const xcb_input_button_press_event_t &event,
-                              bool freshStart)
+std::optional<double> advance(std::optional<ScrollAxis> &axis, const xcb_input_button_press_event_t &event)
 {
     if (!axis)
         return std::nullopt;
     const auto value = valuatorValue(event, axis->valuator);
     if (!value)
         return std::nullopt;
-    const double from = freshStart ? *value : axis->last.value_or(*value);
+    const double from = axis->last.value_or(*value);
     axis->last = value;
     // Values grow towards the lower right, where the content moves the other way.
     return (from - *value) / axis->increment * pointsPerClick;
@@ -85,11 +84,18 @@ void readScrollClasses(const xcb_input_xi_device_info_t &device, ScrollSource &s
 
 } // namespace
 
-std::optional<ScrollStep> scrollStep(const xcb_input_button_press_event_t &motion, ScrollSource &source,
-                                     bool freshStart)
+void ScrollSource::forgetPositions()
 {
-    const auto x = advance(source.horizontal, motion, freshStart);
-    const auto y = advance(source.vertical, motion, freshStart);
+    for (auto *axis : {&horizontal, &vertical}) {
+        if (*axis)
+            (*axis)->last.reset();
+    }
+}
+
+std::optional<ScrollStep> scrollStep(const xcb_input_button_press_event_t &motion, ScrollSource &source)
+{
+    const auto x = advance(source.horizontal, motion);
+    const auto y = advance(source.vertical, motion);
     if (!x && !y)
         return std::nullopt;
     return ScrollStep{x.value_or(0), y.value_or(0)};
@@ -111,18 +117,24 @@ std::optional<ScrollStep> scrollStep(uint32_t button)
     }
 }
 
-std::optional<ScrollStep> TouchpadScroll::read(const xcb_input_button_press_event_t &event, bool freshStart)
+std::optional<ScrollStep> TouchpadScroll::read(const xcb_input_button_press_event_t &event)
 {
     ScrollSource &from = source(event.sourceid);
     if (!from.isTouchpad)
         return std::nullopt;
     if (event.event_type == XCB_INPUT_MOTION)
-        return scrollStep(event, from, freshStart);
+        return scrollStep(event, from);
     // The server also sends a button for every click of a scroll axis that has been reported already.
     if (event.event_type == XCB_INPUT_BUTTON_PRESS &&
         !(event.flags & XCB_INPUT_POINTER_EVENT_FLAGS_POINTER_EMULATED))
         return scrollStep(event.detail);
     return std::nullopt;
+}
+
+void TouchpadScroll::forgetPositions()
+{
+    for (ScrollSource &source : m_sources)
+        source.forgetPositions();
 }
 
 ScrollSource &TouchpadScroll::source(xcb_input_device_id_t id)

@@ -27,6 +27,9 @@ struct ScrollSource
     bool isTouchpad = false;
     std::optional<ScrollAxis> horizontal;
     std::optional<ScrollAxis> vertical;
+
+    /// Other windows may have been scrolled meanwhile: the next values only set the start.
+    void forgetPositions();
 };
 
 struct ScrollStep
@@ -39,10 +42,8 @@ struct ScrollStep
 inline constexpr double pointsPerClick = 15;
 
 /// The step from the last known values of `source` to those of a motion event; updates them. Absent when the
-/// event moves no scroll axis. `freshStart` forgets the last values, which other windows may have scrolled
-/// past.
-std::optional<ScrollStep> scrollStep(const xcb_input_button_press_event_t &motion, ScrollSource &source,
-                                     bool freshStart);
+/// event moves no scroll axis.
+std::optional<ScrollStep> scrollStep(const xcb_input_button_press_event_t &motion, ScrollSource &source);
 
 /// The step of a wheel button (4 up, 5 down, 6 left, 7 right), as older touchpad drivers send it; absent for
 /// others.
@@ -58,7 +59,9 @@ public:
     }
 
     /// The step in a pointer event over one of our windows, absent when it is no touchpad's scrolling.
-    std::optional<ScrollStep> read(const xcb_input_button_press_event_t &event, bool freshStart);
+    std::optional<ScrollStep> read(const xcb_input_button_press_event_t &event);
+    /// The pointer has been where scrolling is not told to us.
+    void forgetPositions();
     /// Devices came, went or changed.
     void forgetDevices() { m_sources.clear(); }
 

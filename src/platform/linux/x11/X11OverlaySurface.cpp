@@ -1,6 +1,7 @@
 #include "platform/linux/x11/X11OverlaySurface.h"
 
 #include "platform/linux/screens/QtScreens.h"
+#include "platform/linux/x11/OutlineRows.h"
 #include "platform/linux/x11/XcbReply.h"
 
 #include <xcb/shape.h>
@@ -9,7 +10,6 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <cmath>
 
 namespace brimlight {
 namespace {
@@ -34,58 +34,24 @@ QWindow &prepared(QWindow &window)
 
 } // namespace
 
-std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent,
-                                         double devicePixelRatio)
-{
-    const auto pixels = [&](double points) { return points * devicePixelRatio; };
-    // The pane is painted between whole pixels, too.
-    const double left = std::round(pixels(outline.frame.minX() - extent.minX()));
-    const double right = std::round(pixels(outline.frame.maxX() - extent.minX()));
-    const double top = std::round(pixels(extent.maxY() - outline.frame.maxY()));
-    const double bottom = std::round(pixels(extent.maxY() - outline.frame.minY()));
-    if (right <= left || bottom <= top)
-        return {};
-    const auto row = [&](double y, double inset, double height) {
-        return xcb_rectangle_t{static_cast<int16_t>(left + inset), static_cast<int16_t>(y),
-                               static_cast<uint16_t>(std::max(0.0, right - left - 2 * inset)),
-                               static_cast<uint16_t>(height)};
-    };
-    // The quadratic corner from (0, 0) by (0, r) to (r, r): at depth d it stands t^2 r in, t = 1 - sqrt(1 -
-    // d/r). The inner edge of the row decides, so that no pixel that is drawn in part is cut off.
-    const auto inset = [](double depth, double radius) {
-        const double t = 1 - std::sqrt(1 - depth / radius);
-        return std::floor(radius * t * t);
-    };
-    const double middle = std::ceil((top + bottom) / 2);
-    const double upper = std::min(std::round(pixels(outline.topRadius)), middle - top);
-    const double lower = std::min(std::round(pixels(outline.bottomRadius)), bottom - top - upper);
-    std::vector<xcb_rectangle_t> rows;
-    for (double depth = upper - 1; depth >= 0; --depth)
-        rows.push_back(row(top + upper - 1 - depth, inset(depth, upper), 1));
-    if (bottom - lower > top + upper)
-        rows.push_back(row(top + upper, 0, bottom - lower - top - upper));
-    for (double depth = 0; depth < lower; ++depth)
-        rows.push_back(row(bottom - lower + depth, inset(depth, lower), 1));
-    return rows;
-}
-
 X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection, Scheduler &scheduler,
                                      std::function<void(bool)> overChanged)
     : m_window(prepared(window))
     , m_connection(connection)
     , m_overChanged(std::move(overChanged))
-    , m_sensor(connection)
+    , m_strip(connection)
+    , m_watch(connection, scheduler, [this] { pointerWent(); })
     , m_keyboard(connection, static_cast<xcb_window_t>(window.winId()))
     , m_escape(connection,
                [this] {
                    if (m_events.escapePressed)
                        m_events.escapePressed();
                })
-    , m_stacking(connection, scheduler, [this] { raise(); })
+    , m_stacking(connection, scheduler, {m_strip.id(), static_cast<xcb_window_t>(window.winId())})
     , m_blur(connection, static_cast<xcb_window_t>(window.winId()), [this] { backdropMayHaveChanged(); })
     , m_touchpad(connection)
-    , m_gesture(scheduler,
-                [this](const ScrollEvent &event) { return m_events.scrolled && m_events.scrolled(event); })
+    , m_gesture(scheduler, [this](const ScrollEvent &event) { scrolled(event); })
+    , m_wheel(window)
     , m_dragEnter(connection.atom("XdndEnter"))
     , m_dragPosition(connection.atom("XdndPosition"))
     , m_dragLeave(connection.atom("XdndLeave"))
@@ -108,12 +74,12 @@ X11OverlaySurface::X11OverlaySurface(QWindow &window, X11Connection &connection,
 
 void X11OverlaySurface::orderFront()
 {
-    m_sensor.show();
+    m_strip.show();
     m_window.show();
     // A window without content does not exist for a Wayland compositor, and nothing is drawn yet.
     if (m_connection.isXWayland())
         xcb_clear_area(m_connection, 0, static_cast<xcb_window_t>(m_window.winId()), 0, 0, 0, 0);
-    raise();
+    m_stacking.raise();
 }
 
 void X11OverlaySurface::setExtent(const Rect &extent)
@@ -127,8 +93,14 @@ void X11OverlaySurface::setOutlines(const std::vector<SurfaceOutline> &outlines)
 {
     if (outlines == m_outlines)
         return;
+    const bool feltContent = feelsContent();
     m_outlines = outlines;
     applyShape();
+    if (feelsContent() != feltContent) {
+        // What was scrolled until now went elsewhere.
+        m_touchpad.forgetPositions();
+        applyRest();
+    }
     // Nobody can see what is typed into a surface that shows nothing.
     if (!feelsContent())
         m_keyboard.giveBack();
@@ -139,17 +111,28 @@ bool X11OverlaySurface::feelsContent() const
     return std::ranges::any_of(m_outlines, &SurfaceOutline::takesPointer);
 }
 
-void X11OverlaySurface::setSensor(const Rect &strip)
+void X11OverlaySurface::setSensor(const SurfaceSensor &sensor)
 {
-    m_strip = strip;
+    m_sensor = sensor;
     applyShape();
-    const QRectF frame = unflipped(strip, primaryFrame());
+    const QRectF frame = unflipped(sensor.strip, primaryFrame());
     const double ratio = m_window.devicePixelRatio();
     // Screens keep their origin in pixels; only what lies within a screen is scaled.
     const QScreen *screen = QGuiApplication::screenAt(frame.center().toPoint());
-    const QPointF origin = screen ? QPointF(screen->geometry().topLeft()) : QPointF();
+    const QRectF place = screen ? QRectF(screen->geometry()) : frame;
+    const QPointF origin = screen ? place.topLeft() : QPointF();
     const QRectF pixels(origin + (frame.topLeft() - origin) * ratio, frame.size() * ratio);
-    m_sensor.setGeometry(pixels.toAlignedRect());
+    m_strip.setPlace(pixels.toAlignedRect(), sensor.isHousing, ratio);
+    m_stacking.setScreen(QRectF(place.topLeft(), place.size() * ratio).toRect());
+}
+
+Rect X11OverlaySurface::feltStrip() const
+{
+    const Rect &strip = m_sensor.strip;
+    if (!m_connection.isXWayland() || m_sensor.isHousing)
+        return strip;
+    const double height = std::min(strip.height, X11Strip::waylandEdgeHeight);
+    return {strip.x, strip.maxY() - height, strip.width, height};
 }
 
 void X11OverlaySurface::setWantsKeyboard(bool wants)
@@ -206,13 +189,18 @@ bool X11OverlaySurface::handle(const xcb_generic_event_t &event)
 {
     switch (event.response_type & ~0x80) {
     case XCB_ENTER_NOTIFY:
-        if (reinterpret_cast<const xcb_enter_notify_event_t &>(event).event == m_sensor.id())
+        if (reinterpret_cast<const xcb_enter_notify_event_t &>(event).event == m_strip.id())
             pointerCame();
         return false;
-    case XCB_LEAVE_NOTIFY:
-        if (reinterpret_cast<const xcb_leave_notify_event_t &>(event).event == m_sensor.id())
+    case XCB_LEAVE_NOTIFY: {
+        const auto &leave = reinterpret_cast<const xcb_leave_notify_event_t &>(event);
+        if (leave.event == m_strip.id()) {
+            if (leave.mode == XCB_NOTIFY_MODE_GRAB)
+                pointerGrabbed();
             pointerWent();
+        }
         return false;
+    }
     case XCB_CLIENT_MESSAGE:
         return handleDrag(reinterpret_cast<const xcb_client_message_event_t &>(event));
     case XCB_GE_GENERIC: {
@@ -224,6 +212,16 @@ bool X11OverlaySurface::handle(const xcb_generic_event_t &event)
         case XCB_INPUT_BUTTON_PRESS:
         case XCB_INPUT_BUTTON_RELEASE:
             return handlePointer(reinterpret_cast<const xcb_input_button_press_event_t &>(event));
+        case XCB_INPUT_ENTER:
+            m_grabbed = false;
+            applyRest();
+            return false;
+        case XCB_INPUT_LEAVE: {
+            const auto mode = reinterpret_cast<const xcb_input_leave_event_t &>(event).mode;
+            if (mode == XCB_INPUT_NOTIFY_MODE_GRAB || mode == XCB_INPUT_NOTIFY_MODE_PASSIVE_GRAB)
+                pointerGrabbed();
+            return false;
+        }
         case XCB_INPUT_HIERARCHY:
         case XCB_INPUT_DEVICE_CHANGED:
         case XCB_INPUT_PROPERTY:
@@ -242,16 +240,21 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
 {
     if (!isOurs(event.event))
         return false;
-    if (const auto step = m_touchpad.read(event, !m_gesture.isUnderWay()))
-        return m_gesture.step(step->deltaX, step->deltaY);
+    if (const auto step = m_touchpad.read(event)) {
+        constexpr double fixedPoint = 65536;
+        const double scale = fixedPoint * m_window.devicePixelRatio();
+        m_gesture.step(step->deltaX, step->deltaY, {event.event_x / scale, event.event_y / scale});
+        return true;
+    }
     // Qt takes a while to tell the content that the keyboard has gone elsewhere; until then a field thinks it
     // has it.
     if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
         m_keyboard.take();
-    const bool onSensor = event.event == m_sensor.id() || !feelsContent();
+    const bool onSensor = event.event == m_strip.id() || !feelsContent();
+    const bool takesClick = m_strip.clicked().contains(event.root_x >> 16, event.root_y >> 16);
     if (onSensor && event.detail == XCB_BUTTON_INDEX_1) {
         if (event.event_type == XCB_INPUT_BUTTON_PRESS) {
-            m_pressed = true;
+            m_pressed = takesClick;
         } else if (event.event_type == XCB_INPUT_BUTTON_RELEASE && m_pressed) {
             m_pressed = false;
             // Released elsewhere is taken back, as for any button.
@@ -259,15 +262,23 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
                 m_events.tapped();
         }
     }
-    if (onSensor && event.event_type == XCB_INPUT_BUTTON_PRESS && event.detail == XCB_BUTTON_INDEX_3 &&
-        m_events.menuRequested)
+    if (onSensor && takesClick && event.event_type == XCB_INPUT_BUTTON_PRESS &&
+        event.detail == XCB_BUTTON_INDEX_3 && m_events.menuRequested)
         m_events.menuRequested();
     return onSensor;
 }
 
+void X11OverlaySurface::scrolled(ScrollEvent event)
+{
+    if (event.phase == ScrollEvent::Phase::began && feelsContent() && m_scrollableAt)
+        event.scrollable = m_scrollableAt(event.position);
+    if (!m_events.scrolled || !m_events.scrolled(event))
+        m_wheel.deliver(event);
+}
+
 bool X11OverlaySurface::handleDrag(const xcb_client_message_event_t &event)
 {
-    if (event.window != m_sensor.id())
+    if (event.window != m_strip.id())
         return false;
     if (event.type == m_dragEnter) {
         setDragOver(true);
@@ -279,7 +290,7 @@ bool X11OverlaySurface::handleDrag(const xcb_client_message_event_t &event)
         refusal.format = 32;
         refusal.window = event.data.data32[0];
         refusal.type = m_dragStatus;
-        refusal.data.data32[0] = m_sensor.id();
+        refusal.data.data32[0] = m_strip.id();
         xcb_send_event(m_connection, 0, refusal.window, XCB_EVENT_MASK_NO_EVENT,
                        reinterpret_cast<const char *>(&refusal));
         m_connection.flush();
@@ -302,11 +313,22 @@ xcb_window_t X11OverlaySurface::windowAtPointer() const
     return reply ? reply->child : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
+bool X11OverlaySurface::isPointerHere() const
+{
+    const auto reply = adopt(
+        xcb_query_pointer_reply(m_connection, xcb_query_pointer(m_connection, m_connection.root()), nullptr));
+    return reply && (isOurs(reply->child) ||
+                     (m_strip.hasGivenWay() && m_strip.felt().contains(reply->root_x, reply->root_y)));
+}
+
 void X11OverlaySurface::pointerCame()
 {
+    m_grabbed = false;
     if (m_over)
         return;
     m_over = true;
+    m_touchpad.forgetPositions();
+    applyRest();
     m_overChanged(true);
     if (m_events.entered)
         m_events.entered();
@@ -318,21 +340,28 @@ void X11OverlaySurface::pointerWent()
         return;
     // Going from the sensor to the drawn window and back, or a grab by somebody else, is no leaving. XWayland
     // knows no better than this event: it would answer with the last place it has seen.
-    if (!m_connection.isXWayland() && isOurs(windowAtPointer()))
+    if (!m_connection.isXWayland() && isPointerHere())
         return;
     m_over = false;
+    m_grabbed = false;
+    applyRest();
     m_overChanged(false);
     if (m_events.exited)
         m_events.exited();
 }
 
-void X11OverlaySurface::raise()
+void X11OverlaySurface::pointerGrabbed()
 {
-    const uint32_t above = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(m_connection, m_sensor.id(), XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    xcb_configure_window(m_connection, static_cast<xcb_window_t>(m_window.winId()),
-                         XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    m_connection.flush();
+    m_grabbed = true;
+    m_touchpad.forgetPositions();
+    applyRest();
+}
+
+void X11OverlaySurface::applyRest()
+{
+    const bool restsInStrip = m_over && !feelsContent();
+    m_strip.setGivesWay(restsInStrip);
+    m_watch.setRunning(!m_connection.isXWayland() && (restsInStrip || (m_over && m_grabbed)));
 }
 
 void X11OverlaySurface::applyBackground()
@@ -366,7 +395,7 @@ void X11OverlaySurface::applyShape()
     // Input-only windows have no counterpart in Wayland: there the drawn window, transparent, feels the strip
     // itself.
     if (!feelsContent() && (m_connection.isXWayland() || m_dragOver))
-        felt = outlineRows({.frame = m_strip}, m_extent, m_window.devicePixelRatio());
+        felt = outlineRows({.frame = feltStrip()}, m_extent, m_window.devicePixelRatio());
     if (!feelsContent() && m_dragOver)
         drawn.insert(drawn.end(), felt.begin(), felt.end());
     const auto window = static_cast<xcb_window_t>(m_window.winId());

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "platform/OverlaySurface.h"
+#include "platform/linux/x11/ContentWheel.h"
 #include "platform/linux/x11/ScrollGesture.h"
 #include "platform/linux/x11/TouchpadScroll.h"
 #include "platform/linux/x11/X11BlurBehind.h"
 #include "platform/linux/x11/X11Connection.h"
 #include "platform/linux/x11/X11EscapeKey.h"
 #include "platform/linux/x11/X11KeyboardFocus.h"
-#include "platform/linux/x11/X11Sensor.h"
+#include "platform/linux/x11/X11PointerWatch.h"
 #include "platform/linux/x11/X11Stacking.h"
+#include "platform/linux/x11/X11Strip.h"
 
 #include <QObject>
 #include <QWindow>
@@ -16,10 +18,6 @@
 #include <memory>
 
 namespace brimlight {
-
-/// The rows of pixels that an outline covers, within a window whose frame is `extent`.
-std::vector<xcb_rectangle_t> outlineRows(const SurfaceOutline &outline, const Rect &extent,
-                                         double devicePixelRatio);
 
 /// A window outside of the window manager's care, with a sensor beneath it.
 class X11OverlaySurface : public QObject, public OverlaySurface
@@ -34,7 +32,8 @@ public:
     void orderFront() override;
     void setExtent(const Rect &extent) override;
     void setOutlines(const std::vector<SurfaceOutline> &outlines) override;
-    void setSensor(const Rect &strip) override;
+    void setSensor(const SurfaceSensor &sensor) override;
+    void setScrollable(std::function<ScrollAxes(Point)> at) override { m_scrollableAt = std::move(at); }
     void setWantsKeyboard(bool wants) override;
     void setWatchesEscape(bool watches) override { m_escape.setWatched(watches); }
     SurfaceBackdrop backdrop() const override;
@@ -45,18 +44,27 @@ protected:
 private:
     bool handle(const xcb_generic_event_t &event);
     bool handlePointer(const xcb_input_button_press_event_t &event);
+    void scrolled(ScrollEvent event);
     /// Something is dragged over the sensor. That can take nothing: it gives way to the drawn window, which
     /// is what the source finds at its next motion, and Qt does the rest.
     bool handleDrag(const xcb_client_message_event_t &event);
     void setDragOver(bool over);
     /// What the pointer is over, of all windows on the screen.
     xcb_window_t windowAtPointer() const;
-    bool isOurs(xcb_window_t window) const { return window == m_sensor.id() || window == m_window.winId(); }
+    bool isOurs(xcb_window_t window) const { return window == m_strip.id() || window == m_window.winId(); }
+    /// Whether the pointer is over one of our windows or where the strip has given way to others.
+    bool isPointerHere() const;
     void pointerCame();
     void pointerWent();
-    void raise();
+    /// Somebody has grabbed the pointer: from now on nobody tells when it goes.
+    void pointerGrabbed();
+    /// The strip gives way to the windows below as long as the pointer rests in it, and the pointer is
+    /// watched whenever no event tells that it goes.
+    void applyRest();
     /// Whether the pointer is taken by anything that is drawn; else the strip feels it.
     bool feelsContent() const;
+    /// The part of the window that feels the pointer while nothing is drawn.
+    Rect feltStrip() const;
     void applyShape();
     /// What the server paints by itself where something new of the window is seen.
     void applyBackground();
@@ -66,7 +74,9 @@ private:
     X11Connection &m_connection;
     std::function<void(bool)> m_overChanged;
     Events m_events;
-    X11Sensor m_sensor;
+    std::function<ScrollAxes(Point)> m_scrollableAt;
+    X11Strip m_strip;
+    X11PointerWatch m_watch;
     X11KeyboardFocus m_keyboard;
     X11EscapeKey m_escape;
     X11Stacking m_stacking;
@@ -74,10 +84,12 @@ private:
     SurfaceBackdrop m_backdrop = SurfaceBackdrop::opaque;
     TouchpadScroll m_touchpad;
     ScrollGesture m_gesture;
+    ContentWheel m_wheel;
     Rect m_extent;
-    Rect m_strip;
+    SurfaceSensor m_sensor;
     std::vector<SurfaceOutline> m_outlines;
     bool m_over = false;
+    bool m_grabbed = false;
     bool m_pressed = false;
     bool m_wantsKeyboard = false;
     /// Something is being dragged over the strip, so the drawn window covers it though nothing is drawn.
