@@ -124,6 +124,7 @@ private:
 public:
     Stores stores{{m_fakes.scheduler,
                    m_fakes.defaults,
+                   m_fakes.files,
                    m_fakes.folders,
                    m_fakes.recorded,
                    m_fakes.screens,

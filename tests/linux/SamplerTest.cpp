@@ -1,18 +1,15 @@
-#include "sensors/Sampler.h"
+#include "sensors/Samplers.h"
 
 #include "fixtures/machines.h"
 #include "platform/linux/kernel/LinuxHostStatistics.h"
 #include "platform/linux/kernel/SysfsPowerSources.h"
 #include "platform/linux/process/QtScheduler.h"
-#include "sensors/Samplers.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QThread>
 
-#include <future>
 #include <memory>
 #include <thread>
 
@@ -101,86 +98,6 @@ TEST(Samplers, AFileOfTheKernelThatBlocksHoldsUpNeitherTheLoopNorOtherSources)
     EXPECT_FALSE(system.latest()->pages);
     EXPECT_TRUE(system.latest()->ticks);
     waitUntil([&] { return scheduler.isAsideIdle(); });
-}
-
-TEST(Aside, WorkRunsElsewhereAndItsEndHere)
-{
-    QtScheduler scheduler;
-    QObject context;
-    QThread *worked = nullptr;
-    QThread *ended = nullptr;
-    scheduler.aside(
-        context, [&worked] { worked = QThread::currentThread(); },
-        [&ended] { ended = QThread::currentThread(); });
-    EXPECT_EQ(ended, nullptr) << "not within the call";
-    waitUntil([&ended] { return ended; });
-    EXPECT_EQ(ended, QThread::currentThread());
-    EXPECT_NE(worked, nullptr);
-    EXPECT_NE(worked, ended);
-}
-
-TEST(Aside, WhatHangsLetsAllOthersPass)
-{
-    QtScheduler scheduler;
-    QObject context;
-    std::promise<void> gate;
-    const std::shared_future<void> open = gate.get_future().share();
-    constexpr int many = 20;
-    int hung = 0;
-    int passed = 0;
-    for (int i = 0; i < many; ++i) {
-        scheduler.aside(
-            context, [open] { open.wait(); }, [&hung] { ++hung; });
-        scheduler.aside(
-            context, [] {}, [&passed] { ++passed; });
-    }
-    waitUntil([&passed] { return passed == many; });
-    EXPECT_EQ(hung, 0);
-    EXPECT_FALSE(scheduler.isAsideIdle());
-    gate.set_value();
-    waitUntil([&hung] { return hung == many; });
-    EXPECT_TRUE(scheduler.isAsideIdle());
-}
-
-TEST(Aside, NothingEndsForAContextThatIsGone)
-{
-    QtScheduler scheduler;
-    QObject stays;
-    bool hasEnded = false;
-    bool isOver = false;
-    {
-        QObject goes;
-        scheduler.aside(
-            goes, [] {}, [&hasEnded] { hasEnded = true; });
-    }
-    waitUntil([&] { return scheduler.isAsideIdle(); });
-    scheduler.aside(
-        stays, [] {}, [&isOver] { isOver = true; });
-    waitUntil([&isOver] { return isOver; });
-    EXPECT_FALSE(hasEnded);
-}
-
-TEST(Aside, TheSchedulerMayGoWhileWorkHangs)
-{
-    std::promise<void> gate;
-    std::promise<void> left;
-    const std::shared_future<void> open = gate.get_future().share();
-    bool hasEnded = false;
-    QObject context;
-    {
-        QtScheduler scheduler;
-        scheduler.aside(
-            context,
-            [open, &left] {
-                open.wait();
-                left.set_value();
-            },
-            [&hasEnded] { hasEnded = true; });
-    }
-    gate.set_value();
-    left.get_future().wait();
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(hasEnded);
 }
 
 } // namespace brimlight::test

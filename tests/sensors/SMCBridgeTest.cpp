@@ -166,7 +166,7 @@ TEST_F(SMCBridgeTest, ClosesItsConnectionOnceAndAtTheEnd)
     smc.add("Tp01", 40);
     open();
     EXPECT_TRUE(smc.closed.empty());
-    bridge.reset();
+    sensors.reset();
     EXPECT_EQ(smc.closed, std::vector{FakeSmc::connection});
 }
 

@@ -267,6 +267,7 @@ TEST_F(SystemWidgets, AShortPauseGivesARateAtOnce)
     hide();
     NetworkFace face(context, networkSampler);
     show();
+    pass(250ms);
     hide();
     statistics.links[0].received += 6000;
     pass(2s);
