@@ -5,7 +5,7 @@
 #include "platform/Log.h"
 #include "platform/linux/files/BackgroundFileWriter.h"
 #include "platform/linux/files/JsonUserDefaults.h"
-#include "platform/linux/x11/X11OverlaySurface.h"
+#include "platform/linux/x11/OutlineRows.h"
 #include "theme/NotchShape.h"
 #include "theme/Spring.h"
 

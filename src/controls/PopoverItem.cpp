@@ -38,6 +38,11 @@ PopoverItem::~PopoverItem()
         m_layer->forget(*this);
 }
 
+bool PopoverItem::isOpen() const
+{
+    return m_layer != nullptr;
+}
+
 void PopoverItem::setOpen(bool open)
 {
     if (open == isOpen())

@@ -28,7 +28,7 @@ public:
     explicit PopoverItem(QQuickItem *parent = nullptr);
     ~PopoverItem() override;
 
-    bool isOpen() const { return m_layer != nullptr; }
+    bool isOpen() const;
     /// Opening without an anchor or a layer does nothing.
     void setOpen(bool open);
     /// The control that it belongs to: it stands beside that, and gives the focus back to it when it is
