@@ -219,7 +219,8 @@ bool drawMachine(QPainter &painter, double left, const State &state)
     drawLabel(painter, {left + tileMargin, margin + 14}, state.title, 15, Qt::white);
     double top = margin + 24;
     for (const QString &kind : kinds) {
-        const std::vector<Tile> tiles = placed(machine.stores.registry.definition(kind)->metadata.allowedSizes);
+        const std::vector<Tile> tiles =
+            placed(machine.stores.registry.definition(kind)->metadata.allowedSizes);
         for (const Tile &tile : tiles) {
             const QImage image = renderer.render(kind, tile.size, [&machine] {
                 for (int n = 0; n < RecordedMachine::period; ++n)

@@ -91,7 +91,8 @@ void TileModel::forget(const QString &instanceId)
 
 void TileModel::forgetLater(const QString &instanceId)
 {
-    QMetaObject::invokeMethod(this, [this, instanceId] { forget(instanceId); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, instanceId] { forget(instanceId); }, Qt::QueuedConnection);
 }
 
 void TileModel::follow()
