@@ -49,7 +49,8 @@ bool DragSource::drop()
 {
     const bool accepted = waitUntil([this] { return isAccepted(); }, bounded);
     xcb_ungrab_pointer(m_x, XCB_CURRENT_TIME);
-    m_x.flush();
+    // The hand moves through a connection of its own: without an answer its next click could overtake this.
+    m_x.sync();
     tell(accepted ? "XdndDrop" : "XdndLeave", {0, XCB_CURRENT_TIME, 0, 0});
     return accepted && waitUntil([this] {
                take();

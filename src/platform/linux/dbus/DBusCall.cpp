@@ -39,7 +39,7 @@ void callDBus(const QDBusConnection &bus, const QDBusMessage &call, QObject &con
 }
 
 void findService(const QDBusConnection &bus, const QString &name, QObject &context,
-                 std::function<void(bool)> answered)
+                 const std::function<void(bool)> &answered)
 {
     if (!bus.isConnected()) {
         answered(false);

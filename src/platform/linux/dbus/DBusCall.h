@@ -34,6 +34,6 @@ void callDBus(const QDBusConnection &bus, const QDBusMessage &call, QObject &con
 /// Whether a service is on the bus or would be started by a call to it; false without a bus. To be called on
 /// the main thread.
 void findService(const QDBusConnection &bus, const QString &name, QObject &context,
-                 std::function<void(bool)> answered);
+                 const std::function<void(bool)> &answered);
 
 } // namespace brimlight

@@ -147,7 +147,7 @@ PlasmaColors::Scheme PlasmaColors::current() const
 QByteArray PlasmaColors::schemeFile(const QString &name) const
 {
     for (const QString &folder : m_places.dataFolders) {
-        const QByteArray content = contentOf(folder + QStringLiteral("/color-schemes/%1.colors").arg(name));
+        QByteArray content = contentOf(folder + QStringLiteral("/color-schemes/%1.colors").arg(name));
         if (!content.isEmpty())
             return content;
     }

@@ -27,7 +27,7 @@ std::vector<xcb_keycode_t> keysOf(X11Connection &connection)
     const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
     for (int key = 0; key < count; ++key) {
         // The first column is the key without Shift.
-        if (symbols[key * reply->keysyms_per_keycode] == escape)
+        if (symbols[static_cast<ptrdiff_t>(key) * reply->keysyms_per_keycode] == escape)
             keys.push_back(static_cast<xcb_keycode_t>(setup.min_keycode + key));
     }
     return keys;

@@ -251,14 +251,16 @@ bool X11OverlaySurface::handlePointer(const xcb_input_button_press_event_t &even
     if (m_wantsKeyboard && event.event_type == XCB_INPUT_BUTTON_PRESS)
         m_keyboard.take();
     const bool onSensor = event.event == m_strip.id() || !feelsContent();
-    const bool takesClick = m_strip.clicked().contains(event.root_x >> 16, event.root_y >> 16);
+    const QPoint place(event.root_x >> 16, event.root_y >> 16);
+    const bool takesClick = m_strip.clicked().contains(place);
     if (onSensor && event.detail == XCB_BUTTON_INDEX_1) {
         if (event.event_type == XCB_INPUT_BUTTON_PRESS) {
             m_pressed = takesClick;
         } else if (event.event_type == XCB_INPUT_BUTTON_RELEASE && m_pressed) {
             m_pressed = false;
-            // Released elsewhere is taken back, as for any button.
-            if (m_over && m_events.tapped)
+            // Released elsewhere is taken back, as for any button. The event tells where; whether Qt has told
+            // of the pointer's coming yet is another matter.
+            if (m_strip.felt().contains(place) && m_events.tapped)
                 m_events.tapped();
         }
     }

@@ -82,6 +82,7 @@ xcb_window_t X11Stacking::lowestLocker(const std::vector<xcb_window_t> &windows)
 {
     // All questions go out before the first answer is waited for.
     std::vector<std::pair<xcb_get_window_attributes_cookie_t, xcb_get_geometry_cookie_t>> cookies;
+    cookies.reserve(windows.size());
     for (const xcb_window_t window : windows)
         cookies.emplace_back(xcb_get_window_attributes(m_connection, window),
                              xcb_get_geometry(m_connection, window));
