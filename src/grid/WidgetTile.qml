@@ -159,6 +159,8 @@ Item {
     DragHandler {
         target: null
         acceptedButtons: Qt.LeftButton
+        // What a text, a slider or a scrolled list has begun is theirs.
+        grabPermissions: PointerHandler.CanTakeOverFromHandlersOfDifferentType | PointerHandler.ApprovesTakeOverByAnything
         onActiveChanged: active ? root.dragStarted() : root.dragEnded(centroid.position)
         onCentroidChanged: {
             if (active)

@@ -53,7 +53,7 @@ Item {
 
         ProgressBar {
             width: parent.width
-            stacked: root.size === "wide"
+            stacked: !root.isRich
             label: "Week"
             fraction: root.face.week
             text: root.face.weekText
@@ -62,7 +62,7 @@ Item {
         ProgressBar {
             width: parent.width
             visible: root.size !== "banner"
-            stacked: root.size === "wide"
+            stacked: !root.isRich
             label: "Month"
             fraction: root.face.month
             text: root.face.monthText
