@@ -294,10 +294,13 @@ TEST_F(Machine, BatteryAndTemperatureAreNamed)
         if (firstLine(folder + u"/type"_s) == "Battery" && firstLine(folder + u"/scope"_s) != "Device")
             charge = QString::fromLatin1(firstLine(folder + u"/capacity"_s));
     }
-    EXPECT_EQ(shown(u"progress bar"_s, u'^' + charge + u'$').size(), 1);
-    const size_t degrees = shown(u"progress bar"_s, u"^-?\\d+°$"_s).size();
-    const size_t state = shown(u"label"_s, u"^(?:Nominal|Fair|Serious|Critical)$"_s).size();
-    EXPECT_EQ(degrees + state, 1);
+    // A tile comes with the panel, its figures when their source has answered.
+    EXPECT_TRUE(waitUntil([&] { return shown(u"progress bar"_s, u'^' + charge + u'$').size() == 1; }));
+    EXPECT_TRUE(waitUntil([&] {
+        const size_t degrees = shown(u"progress bar"_s, u"^-?\\d+°$"_s).size();
+        const size_t state = shown(u"label"_s, u"^(?:Nominal|Fair|Serious|Critical)$"_s).size();
+        return degrees + state == 1;
+    }));
 }
 
 /// How this machine gives a process a network of its own.
