@@ -51,7 +51,7 @@ public:
         m_statistics.volume = fare.volume;
         m_statistics.seconds = fare.uptime;
         writeCounters();
-        stores.systemHistory.setActive(true);
+        stores.historySampling.setPanelOpen(true);
         stores.ticker.setActive(true);
     }
 

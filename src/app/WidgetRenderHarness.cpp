@@ -30,7 +30,7 @@ void waitForFigures(Stores &stores)
     const std::array<AnySampler *, 6> samplers{&stores.systemSampler,       &stores.networkSampler,
                                                &stores.diskSampler,         &stores.powerSampler,
                                                &stores.thermalStateSampler, &stores.machineSampler};
-    stores.systemHistory.setActive(true);
+    stores.historySampling.setPanelOpen(true);
     stores.temperature.refresh();
     for (AnySampler *sampler : samplers)
         sampler->ask();
